@@ -1,0 +1,75 @@
+#include "dice/keep_roll.h"
+
+#include "dice/dice.h"
+#include "rules/quirk_table.h"
+
+namespace veld {
+
+namespace {
+
+constexpr std::string_view kRerollCaption = "Reroll costs 1 BP";
+constexpr int kMostTableRolls = 10'000;
+
+using Outcome = enum TableResult::Outcome;
+
+/// Asks whether a result is kept; a player without BP keeps what the dice gave. A refusal takes 1 BP.
+bool IsKept(Game& game, const std::string& question) {
+  if (!(game.run.BuildingPoints > 0)) return true;
+  if (game.platform.AskYesNo(kRerollCaption, question) != Answer::No) return true;
+  game.run.BuildingPoints -= 1.0F;
+  return false;
+}
+
+bool CanHold(const Game& game, int row) {
+  const int held = game.sheet.QuirkCounts[static_cast<std::size_t>(row)];
+  return held != -1 && held < QuirkTable()[static_cast<std::size_t>(row)].MaxCount;
+}
+
+/// True if some result of the dice yields a row that the character can hold.
+bool CanYieldRow(const Game& game, std::string_view table, const QuirkDie& die) {
+  for (int roll = die.Count; roll <= die.Count * die.Sides; ++roll) {
+    if (CanHold(game, QuirkRowOfRoll(table, roll))) return true;
+  }
+  return false;
+}
+
+TableResult TellNoRow(Game& game, std::string_view table) {
+  game.platform.ShowMessage(Format("The table '%s' has no result left.", table));
+  return {Outcome::NoRow, 0};
+}
+
+}  // namespace
+
+int AskKeepRoll(Game& game, Form& window, int sides, int count) {
+  while (true) {
+    const int result = RollDice(game, sides, count);
+    if (IsKept(game, Format("%s - Keep your result of - %i", game.dice.RollContextText, result))) return result;
+    window.SetText(kBuildingPointsControl, Format("%g", game.run.BuildingPoints));
+  }
+}
+
+TableResult AskKeepTableResult(Game& game, std::string_view table) {
+  const QuirkDie die = QuirkTableDie(table);
+  if (!CanYieldRow(game, table, die)) return TellNoRow(game, table);
+  const int roll = RollDice(game, die.Sides, die.Count);
+  const int row = QuirkRowOfRoll(table, roll);
+  if (!CanHold(game, row)) return {Outcome::RollAgain, 0};
+  const std::string_view name = QuirkTable()[static_cast<std::size_t>(row)].Name;
+  const int bp = game.run.QuirkBPCosts[static_cast<std::size_t>(row)];
+  if (!(game.run.BuildingPoints > 0)) return {Outcome::Row, row};
+  const std::string question = bp > 0 ? Format("Keep your result of (%i) %s (%i BP)?", roll, name, bp)
+                                      : Format("Keep your result of (%i) %s?", roll, name);
+  if (!IsKept(game, question)) return {Outcome::RollAgain, 0};
+  return {Outcome::Row, row};
+}
+
+TableResult RollTableUntilRow(Game& game, std::string_view table, const std::function<bool(int)>& isUsable) {
+  for (int tries = 0; tries < kMostTableRolls; ++tries) {
+    const TableResult result = AskKeepTableResult(game, table);
+    if (result.Outcome == Outcome::NoRow) return result;
+    if (result.IsRow() && (!isUsable || isUsable(result.Row))) return result;
+  }
+  return TellNoRow(game, table);
+}
+
+}  // namespace veld

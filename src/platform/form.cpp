@@ -1,0 +1,203 @@
+#include "platform/form.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "text/utf8.h"
+
+namespace veld {
+
+Form::Form(const FormTemplate& formTemplate) : name_(formTemplate.Name), title_(formTemplate.Title) {
+  controls_.reserve(formTemplate.Controls.size());
+  for (const ControlTemplate& control : formTemplate.Controls) {
+    Control live{.Template = control, .Text = std::string(control.Text)};
+    live.Enabled = control.Enabled;
+    live.Visible = control.Visible;
+    controls_.push_back(std::move(live));
+  }
+}
+
+Control* Form::Find(int id) {
+  return const_cast<Control*>(std::as_const(*this).Find(id));
+}
+
+const Control* Form::Find(int id) const {
+  if (id == 0) return nullptr;
+  const auto found = std::ranges::find_if(controls_, [id](const Control& c) { return c.Template.Id == id; });
+  return found == controls_.end() ? nullptr : &*found;
+}
+
+void Form::Changed(const Control& control) {
+  if (observer_) observer_->OnControlChanged(static_cast<std::size_t>(&control - controls_.data()));
+}
+
+const std::string& Form::Text(int id) const {
+  static const std::string kNone;
+  const Control* control = Find(id);
+  return control ? control->Text : kNone;
+}
+
+void Form::SetText(int id, std::string_view text) {
+  Control* control = Find(id);
+  if (!control) return;
+  std::string shown = DisplayText(text);
+  if (control->Text == shown) return;
+  control->Text = std::move(shown);
+  Changed(*control);
+}
+
+const std::vector<std::string>& Form::Items(int id) const {
+  static const std::vector<std::string> kNone;
+  const Control* control = Find(id);
+  return control ? control->Items : kNone;
+}
+
+void Form::SetItems(int id, std::vector<std::string> items) {
+  Control* control = Find(id);
+  if (!control) return;
+  for (std::string& item : items) item = DisplayText(item);
+  control->Items = std::move(items);
+  control->Selection = -1;
+  Changed(*control);
+}
+
+int Form::Selection(int id) const {
+  const Control* control = Find(id);
+  return control ? control->Selection : -1;
+}
+
+std::string Form::SelectedText(int id) const {
+  const Control* control = Find(id);
+  if (!control || control->Selection < 0) return {};
+  return control->Items[static_cast<std::size_t>(control->Selection)];
+}
+
+void Form::Select(int id, int selection) {
+  Control* control = Find(id);
+  if (!control) return;
+  control->Selection = selection >= 0 && selection < static_cast<int>(control->Items.size()) ? selection : -1;
+  Changed(*control);
+}
+
+bool Form::IsChecked(int id) const {
+  const Control* control = Find(id);
+  return control && control->Checked;
+}
+
+void Form::SetChecked(int id, bool checked) {
+  if (Control* control = Find(id)) SetMark(*control, checked);
+}
+
+void Form::SetMark(Control& control, bool checked) {
+  control.Checked = checked;
+  Changed(control);
+  if (!checked || control.Template.Kind != ControlKind::Radio) return;
+  for (Control& other : controls_) {
+    if (&other == &control || other.Template.Kind != ControlKind::Radio || !other.Checked) continue;
+    if (other.Template.Group != control.Template.Group) continue;
+    other.Checked = false;
+    Changed(other);
+  }
+}
+
+void Form::SetEnabled(int id, bool enabled) {
+  Control* control = Find(id);
+  if (!control || control->Enabled == enabled) return;
+  control->Enabled = enabled;
+  Changed(*control);
+}
+
+void Form::SetVisible(int id, bool visible) {
+  Control* control = Find(id);
+  if (!control || control->Visible == visible) return;
+  control->Visible = visible;
+  Changed(*control);
+}
+
+void Form::SetTitle(std::string_view title) {
+  title_ = DisplayText(title);
+  if (observer_) observer_->OnTitleChanged();
+}
+
+void Form::Focus(int id) {
+  const Control* control = Find(id);
+  if (control && observer_) observer_->OnFocusWanted(static_cast<std::size_t>(control - controls_.data()));
+}
+
+void Form::Close() {
+  if (closed_) return;
+  closed_ = true;
+  if (observer_) observer_->OnClosed();
+}
+
+void Form::Open() {
+  if (std::exchange(opened_, true)) return;
+  if (onOpened) onOpened();
+}
+
+bool Form::IsUsable(const Control* control) const { return control && !closed_ && control->Enabled && control->Visible; }
+
+bool Form::Press(int id) {
+  const Control* control = Find(id);
+  if (!IsUsable(control) || control->Template.Kind != ControlKind::Button) return false;
+  if (onCommand) onCommand(id);
+  return true;
+}
+
+bool Form::Choose(int id, int selection) {
+  Control* control = Find(id);
+  if (!IsUsable(control)) return false;
+  if (control->Template.Kind != ControlKind::List && control->Template.Kind != ControlKind::Combo) return false;
+  if (selection < 0 || selection >= static_cast<int>(control->Items.size())) return false;
+  control->Selection = selection;
+  Changed(*control);
+  if (onSelect) onSelect(id);
+  return true;
+}
+
+bool Form::Type(int id, std::string_view text) {
+  Control* control = Find(id);
+  if (!IsUsable(control)) return false;
+  const ControlKind kind = control->Template.Kind;
+  if (kind != ControlKind::Edit && kind != ControlKind::Number && kind != ControlKind::MultiLine) return false;
+  if (control->Template.Limit > 0) text = CutToBytes(text, static_cast<std::size_t>(control->Template.Limit));
+  if (control->Text != text) {
+    control->Text = std::string(text);
+    Changed(*control);
+  }
+  if (onEdit) onEdit(id);
+  return true;
+}
+
+bool Form::Mark(int id, bool checked) {
+  Control* control = Find(id);
+  if (!IsUsable(control)) return false;
+  if (control->Template.Kind != ControlKind::Check && control->Template.Kind != ControlKind::Radio) return false;
+  SetMark(*control, checked || control->Template.Kind == ControlKind::Radio);
+  if (onCommand) onCommand(id);
+  return true;
+}
+
+bool Form::ChooseMenuItem(int id) {
+  if (closed_ || id == 0 || !onCommand) return false;
+  onCommand(id);
+  return true;
+}
+
+bool Form::PressDefault() {
+  for (const Control& control : controls_) {
+    const ButtonRole role = control.Template.Role;
+    if ((role == ButtonRole::Default || role == ButtonRole::Both) && Press(control.Template.Id)) return true;
+  }
+  return false;
+}
+
+void Form::PressCloseBox() {
+  for (const Control& control : controls_) {
+    const ButtonRole role = control.Template.Role;
+    if ((role == ButtonRole::Cancel || role == ButtonRole::Both) && Press(control.Template.Id)) return;
+  }
+  Close();
+}
+
+}  // namespace veld

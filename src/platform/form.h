@@ -1,0 +1,102 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/form_template.h"
+#include "platform/menu.h"
+#include "text/format.h"
+#include "text/numbers.h"
+
+namespace veld {
+
+/// What a front end that shows a form is told of changes. It then reads the form's state and draws it.
+class FormObserver {
+ public:
+  virtual ~FormObserver() = default;
+  virtual void OnControlChanged(std::size_t control) = 0;  ///< its place in Form::Controls()
+  virtual void OnTitleChanged() = 0;
+  virtual void OnFocusWanted(std::size_t control) = 0;
+  virtual void OnClosed() = 0;
+};
+
+/// A control and its live state.
+struct Control {
+  ControlTemplate Template;
+  std::string Text = {};           ///< label, result, button: its text; edit: what stands in it
+  std::vector<std::string> Items = {};  ///< list, combo
+  int Selection = -1;              ///< list, combo: place in Items, -1 none
+  bool Checked = false;            ///< check, radio
+  bool Enabled = true;
+  bool Visible = true;
+};
+
+/// A dialog at work: its controls' state and what happens when they are used. The state lives here, so that it is the
+/// same in every front end. A handler reads controls, calls rule procedures and writes controls; it holds no rule.
+///
+/// Texts given to a form are shown as DisplayText makes them. An id that the template does not have is ignored on
+/// writing and reads as empty, no selection and 0.
+class Form {
+ public:
+  explicit Form(const FormTemplate& formTemplate);
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  std::function<void()> onOpened;              ///< once, when the form is about to be shown
+  std::function<void(int id)> onCommand;       ///< a button was pressed, a check or radio button changed, a menu item chosen
+  std::function<void(int id)> onSelect;        ///< a player chose a row of a list or combo
+  std::function<void(int id)> onEdit;          ///< a player typed
+  std::vector<MenuItem> contextMenu;           ///< the menu of a right click; its ids go to onCommand
+
+  // For handlers.
+  const std::string& Text(int id) const;
+  std::int64_t Number(int id, std::int64_t largest = kLargestEntry) const { return ReadEntry(Text(id), largest); }
+  void SetText(int id, std::string_view text);
+  void SetNumber(int id, std::int64_t number) { SetText(id, Format("%i", number)); }
+  const std::vector<std::string>& Items(int id) const;
+  void SetItems(int id, std::vector<std::string> items);  ///< the selection becomes none
+  int Selection(int id) const;
+  std::string SelectedText(int id) const;
+  void Select(int id, int selection);  ///< none if there is no such item; calls no handler
+  bool IsChecked(int id) const;
+  void SetChecked(int id, bool checked);  ///< a radio button takes the mark from its group
+  void SetEnabled(int id, bool enabled);
+  void SetVisible(int id, bool visible);
+  void SetTitle(std::string_view title);
+  void Focus(int id);
+  void Close();
+  bool IsClosed() const { return closed_; }
+
+  // For front ends: the form and what a player does to it. What is disabled or hidden does not act.
+  std::string_view Name() const { return name_; }
+  const std::string& Title() const { return title_; }
+  const std::vector<Control>& Controls() const { return controls_; }
+  void SetObserver(FormObserver* observer) { observer_ = observer; }
+  void Open();  ///< calls onOpened, the first time
+  bool Press(int id);
+  bool Choose(int id, int selection);
+  bool Type(int id, std::string_view text);  ///< replaces what stands in the edit, cut to its limit
+  bool Mark(int id, bool checked);
+  bool ChooseMenuItem(int id);
+  bool PressDefault();
+  void PressCloseBox();  ///< its Cancel button; a form without an enabled one closes
+
+ private:
+  Control* Find(int id);
+  const Control* Find(int id) const;
+  void Changed(const Control& control);
+  bool IsUsable(const Control* control) const;
+  void SetMark(Control& control, bool checked);
+
+  std::string_view name_;
+  std::string title_;
+  std::vector<Control> controls_;
+  FormObserver* observer_ = nullptr;
+  bool opened_ = false;
+  bool closed_ = false;
+};
+
+}  // namespace veld

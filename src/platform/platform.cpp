@@ -1,0 +1,72 @@
+#include "platform/platform.h"
+
+#include <filesystem>
+
+#include "text/utf8.h"
+
+namespace veld {
+
+namespace {
+
+enum : int { kMessageText = 10, kMessageOk = 1, kMessageYes = 6, kMessageNo = 7 };
+constexpr int kMessageWidth = 64;
+
+constexpr ControlTemplate kMessageControls[] = {
+    TextAt(0, 0, kMessageText, "", kMessageWidth, 0),
+    ButtonAt(1, 0, kMessageOk, "OK", ButtonRole::Both),
+};
+constexpr FormTemplate kMessageTemplate{"Message", "VELD", kMessageControls};
+
+constexpr ControlTemplate kQuestionControls[] = {
+    TextAt(0, 0, kMessageText, "", kMessageWidth, 0),
+    ButtonAt(1, 0, kMessageYes, "&Yes", ButtonRole::Default),
+    ButtonAt(1, 0, kMessageNo, "&No"),
+};
+constexpr FormTemplate kQuestionTemplate{"Question", "VELD", kQuestionControls};
+
+}  // namespace
+
+void Platform::ShowMessage(std::string_view text, std::string_view caption) {
+  DoShowMessage(DisplayText(caption), DisplayText(text));
+}
+
+Answer Platform::AskYesNo(std::string_view caption, std::string_view text) {
+  return DoAskYesNo(DisplayText(caption), DisplayText(text));
+}
+
+std::optional<std::string> Platform::AskOpenPath(std::string_view caption, std::span<const FileFilter> filters) {
+  return DoAskOpenPath(std::string(caption), filters);
+}
+
+std::optional<std::string> Platform::AskSavePath(std::string_view caption, std::span<const FileFilter> filters,
+                                                 std::string_view suggestedName) {
+  auto chosen = DoAskSavePath(std::string(caption), filters, std::string(suggestedName));
+  if (!chosen || chosen->Path.empty()) return std::nullopt;
+  if (std::filesystem::path(chosen->Path).extension().empty() && chosen->Filter < filters.size()) {
+    chosen->Path += filters[chosen->Filter].Extension;
+  }
+  return chosen->Path;
+}
+
+void RunMessageForm(Platform& platform, const std::string& caption, const std::string& text) {
+  Form form(kMessageTemplate);
+  form.SetTitle(caption);
+  form.SetText(kMessageText, text);
+  form.onCommand = [&](int) { form.Close(); };
+  platform.RunForm(form);
+}
+
+Answer RunQuestionForm(Platform& platform, const std::string& caption, const std::string& text) {
+  Form form(kQuestionTemplate);
+  form.SetTitle(caption);
+  form.SetText(kMessageText, text);
+  Answer answer = Answer::Closed;
+  form.onCommand = [&](int id) {
+    answer = id == kMessageYes ? Answer::Yes : Answer::No;
+    form.Close();
+  };
+  platform.RunForm(form);
+  return answer;
+}
+
+}  // namespace veld

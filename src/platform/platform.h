@@ -1,0 +1,88 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/form.h"
+#include "platform/menu.h"
+
+namespace veld {
+
+/// The answer to a question. A rule that says "any answer but Yes" reads Closed as No; a rule that takes a Building
+/// Point "on No" reads Closed as Yes.
+enum class Answer { Yes, No, Closed };
+
+/// One line of a file dialog's list of file types.
+struct FileFilter {
+  std::string_view Name;       ///< "Text Files (*.TXT)"
+  std::string_view Extension;  ///< ".txt"; empty: all files
+};
+
+/// A path as a player chose it in a save dialog.
+struct ChosenPath {
+  std::string Path;
+  std::size_t Filter = 0;  ///< which of the filters stood chosen
+};
+
+/// The one top-level window: a title, a menu and ruled paper.
+struct MainWindow {
+  std::string Title;
+  std::vector<MenuItem> Menu;
+  std::function<void()> onStart;           ///< once, when the window stands
+  std::function<void(int id)> onCommand;   ///< a menu item was chosen
+};
+
+/// The whole of what the program asks of a window system. The desktop, the terminal and the tests implement it.
+/// All texts are UTF-8. Everything runs on one thread.
+class Platform {
+ public:
+  virtual ~Platform() = default;
+
+  /// Shows `text` with an OK button and returns when it is closed.
+  void ShowMessage(std::string_view text, std::string_view caption = "VELD");
+  /// Asks `text` with Yes and No.
+  Answer AskYesNo(std::string_view caption, std::string_view text);
+  bool Confirms(std::string_view caption, std::string_view text) { return AskYesNo(caption, text) == Answer::Yes; }
+  /// Asks for a file to load; nothing if the player cancels.
+  std::optional<std::string> AskOpenPath(std::string_view caption, std::span<const FileFilter> filters);
+  /// Asks for a file to save, asking before one is overwritten; nothing if the player cancels. A name without an
+  /// extension gets that of the chosen filter.
+  std::optional<std::string> AskSavePath(std::string_view caption, std::span<const FileFilter> filters,
+                                         std::string_view suggestedName);
+
+  /// Shows a dialog and returns when it has closed. The windows below it do not act meanwhile.
+  virtual void RunForm(Form& form) = 0;
+  /// Shows a window beside the main window and returns at once; it stays until the form closes.
+  virtual void ShowWindow(std::shared_ptr<Form> form) = 0;
+  /// Shows the main window and returns when it was closed.
+  virtual void RunMainWindow(const MainWindow& window) = 0;
+  virtual void CloseMainWindow() = 0;
+  virtual void SetMainTitle(std::string_view title) = 0;
+
+  /// Long work: shows how far it is (0..100). The second returns false once the player has cancelled.
+  virtual void BeginProgress(std::string_view caption, std::string_view text) = 0;
+  virtual bool ShowProgress(int percent) = 0;
+  virtual void EndProgress() = 0;
+
+  /// The clock, in seconds since 1970.
+  virtual std::int64_t Now() const = 0;
+
+ protected:
+  virtual void DoShowMessage(const std::string& caption, const std::string& text) = 0;
+  virtual Answer DoAskYesNo(const std::string& caption, const std::string& text) = 0;
+  virtual std::optional<std::string> DoAskOpenPath(const std::string& caption, std::span<const FileFilter> filters) = 0;
+  virtual std::optional<ChosenPath> DoAskSavePath(const std::string& caption, std::span<const FileFilter> filters,
+                                                  const std::string& suggestedName) = 0;
+};
+
+/// For front ends: a message and a question as ordinary forms, so that everything a player sees is the same paper.
+void RunMessageForm(Platform& platform, const std::string& caption, const std::string& text);
+Answer RunQuestionForm(Platform& platform, const std::string& caption, const std::string& text);
+
+}  // namespace veld

@@ -1,0 +1,30 @@
+#include "shell/about.h"
+
+#include "shell/main_title.h"
+
+namespace veld {
+
+namespace {
+
+constexpr int kVersion = 98;
+constexpr int kOk = 1;
+
+constexpr ControlTemplate kAboutControls[] = {
+    TitleAt(0, 0, kProgramTitle),
+    LabelAt(1, 0, "VELD, a character generator and referee's toolkit for Quellmarch"),
+    ResultAt(2, 0, kVersion, 20),
+    LabelAt(3, 0, "Written by the VELD team, for the players and referees at the table."),
+    ButtonAt(5, 0, kOk, "OK", ButtonRole::Both),
+};
+constexpr FormTemplate kAbout{"About", "About VELD", kAboutControls};
+
+}  // namespace
+
+void RunAbout(Game& game) {
+  Form form(kAbout);
+  form.SetText(kVersion, Format("Version %s", FileVersion));
+  form.onCommand = [&](int) { form.Close(); };
+  game.platform.RunForm(form);
+}
+
+}  // namespace veld

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <vector>
+
+#include "store/game.h"
+
+namespace veld {
+
+inline constexpr int kNewCharacter = 3029;
+inline constexpr int kExit = 3030;
+inline constexpr int kAbout = 3032;
+inline constexpr int kSave = 3033;
+inline constexpr int kLoad = 3034;
+inline constexpr int kEdit = 3035;
+inline constexpr int kInputCharacter = 3036;
+inline constexpr int kCriticalHits = 3099;
+inline constexpr int kDiceTester = 5555;
+inline constexpr int kCustomItems = 5557;
+inline constexpr int kDiceRoller = 5558;
+inline constexpr int kOptions = 5559;
+inline constexpr int kHonorTracking = 5560;
+
+/// The main window's menu. Commands whose rooms are not built yet stand in it disabled.
+std::vector<MenuItem> MainMenu();
+
+/// Carries out a command of the main menu.
+void RunMainCommand(Game& game, int id);
+
+}  // namespace veld

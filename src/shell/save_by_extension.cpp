@@ -1,0 +1,64 @@
+#include "shell/save_by_extension.h"
+
+#include <algorithm>
+
+#include "store/character_file.h"
+#include "text/search.h"
+
+namespace veld {
+
+namespace {
+
+// The misspelling and the double blanks are as players know them.
+constexpr FileFilter kSaveFilters[] = {
+    {"Quellmarch Files (*.VLF)", ".vlf"}, {"Text Files (*.TXT)", ".txt"},
+    {"HTML Files (*.HTML)", ".html"},     {"HTM Files  (*.HTM)", ".htm"},
+    {"Tab Seperated Files  (*.CSV)", ".csv"}, {"XML Files  (*.XML)", ".xml"},
+};
+constexpr FileFilter kLoadFilters[] = {{"Quellmarch Files (*.VLF)", ".vlf"}};
+
+void TellNoWriter(Game& game, std::string_view kind) {
+  game.platform.ShowMessage(Format("This version of VELD does not write %s sheets yet.", kind));
+}
+
+/// The character's name as the name of a file.
+std::string FileNameOf(const Game& game) {
+  std::string name = DisplayText(game.sheet.CharacterName);
+  std::ranges::replace(name, '/', '_');
+  return name;
+}
+
+}  // namespace
+
+void SaveByExtension(Game& game, const std::string& path) {
+  const auto has = [&](std::string_view part) { return Contains(path, part); };
+  if (has(".vlf")) {
+    SaveCharacterFile(game, path);
+  } else if (has(".htm") || has(".html")) {
+    TellNoWriter(game, "HTML");
+  } else if (has(".txt") || has(".TXT")) {
+    TellNoWriter(game, "text");
+  } else if (has(".xml") || has(".XML")) {
+    TellNoWriter(game, "XML");
+  } else if (has(".csv") || has(".CSV")) {
+    TellNoWriter(game, "tab-separated");
+  } else {
+    game.platform.ShowMessage("Problem Saving Character: invalid file extension");
+  }
+}
+
+bool AskAndSaveCharacter(Game& game) {
+  const auto path = game.platform.AskSavePath("Save", kSaveFilters, FileNameOf(game));
+  if (!path) return false;
+  SaveByExtension(game, *path);
+  return true;
+}
+
+bool AskAndLoadCharacter(Game& game) {
+  const auto path = game.platform.AskOpenPath("Load", kLoadFilters);
+  if (!path) return false;
+  LoadCharacterFile(game, *path);
+  return true;
+}
+
+}  // namespace veld

@@ -1,0 +1,190 @@
+#include "shell/sequencer.h"
+
+#include "dice/keep_roll.h"
+#include "rules/quirk_table.h"
+#include "shell/main_title.h"
+#include "shell/pending_stages.h"
+#include "shell/save_by_extension.h"
+#include "text/search.h"
+
+namespace veld {
+
+namespace {
+
+/// The youth tables of the almanacs are not built yet; until they are, nobody is asked whether to use them.
+constexpr bool kYouthTablesStand = false;
+
+constexpr float kGoldPerBP = 25.0F;
+constexpr int kLowestFreeWisdom = 6;      ///< below, the alignment is no choice
+constexpr float kTakeAfterBP = 30.0F;     ///< BP at which a half-blood may take after a parent's race
+constexpr int kLowestMiddleClass = 7;     ///< SocialClassIndex below this forces a mage into the rustic package
+constexpr float kRusticPackageBP = 6.0F;
+
+// Rows of ClassTable that the run names.
+constexpr std::size_t kBarbarian = 4;
+constexpr std::size_t kBerserker = 5;
+constexpr std::size_t kMonk = 9;
+constexpr std::size_t kBattleMage = 13;
+constexpr std::size_t kPaintedMage = 58;
+
+constexpr std::string_view kHalfBloods[] = {"Half-elf", "Half-orc", "Half-ogre", "Gnomeling", "Darkmen"};
+
+bool HasClass(const Game& game, std::size_t classRow) { return game.sheet.ClassLevels[classRow] > 0; }
+bool IsSingleClass(const Game& game) { return !Contains(game.sheet.LevelText, "/"); }
+bool IsAt(const Game& game, int step) { return game.run.CurrentStep == step; }
+
+/// Whether the player wants an almanac's tables for a class of its group.
+bool AsksForYouth(Game& game, std::size_t book, int isOfGroup, std::string_view almanac) {
+  if (!kYouthTablesStand || !game.IsOn(book) || isOfGroup != 1) return false;
+  return game.platform.Confirms("Yes or No", Format("Do you wish to use the %s Tables?", almanac));
+}
+
+void RunFighterYouth(Game& game) {
+  if (!AsksForYouth(game, kWarmongersAlmanac, game.sheet.IsFighterClass, "Warmonger's Almanac")) {
+    game.sheet.UsesFighterBackground = 0;
+    return;
+  }
+  game.sheet.UsesFighterBackground = 1;
+  if (IsSingleClass(game)) RunPackageSelect(game, PackageList::Fighter);
+  if (!HasClass(game, kBarbarian) && !HasClass(game, kBerserker) && !HasClass(game, kMonk)) RunWMABackground(game);
+}
+
+void RunMageYouth(Game& game) {
+  if (!AsksForYouth(game, kHexwrightsAlmanac, game.sheet.IsMageClass, "Hexwright's Almanac")) {
+    game.sheet.UsesMageBackground = 0;
+    return;
+  }
+  game.sheet.UsesMageBackground = 1;
+  if (game.sheet.SocialClassIndex < kLowestMiddleClass) {
+    game.platform.ShowMessage(
+        "Due to your low social class you are being forced into the Rustic Magic-User Package.");
+    game.run.BuildingPoints -= kRusticPackageBP;
+    game.sheet.PackageName = "Rustic Magic-User";
+    ApplyPackage(game);
+  } else if (IsSingleClass(game)) {
+    RunPackageSelect(game, PackageList::Mage);
+  }
+  RunHXABackground(game);
+  if (HasClass(game, kBattleMage)) game.sheet.IsMageClass = 0;
+}
+
+void RunPriestYouth(Game& game) {
+  if (!AsksForYouth(game, kDevoteesAlmanac, game.sheet.IsClericClass, "Devotee's Almanac")) {
+    game.sheet.UsesClericBackground = 0;
+    return;
+  }
+  game.sheet.UsesClericBackground = 1;
+  RunDVABackground(game);
+}
+
+void ChooseSpells(Game& game) {
+  if (game.run.SpellListIndex == -1) return;
+  RunSpellSellection(game);
+  FinishSpellList(game);
+  if (game.sheet.UsesMageBackground == 1 && !HasClass(game, kPaintedMage)) MakeFirstSpellBook(game);
+}
+
+/// The starting money and the inherited goods that there are, in one sentence.
+std::string InheritanceSentence(const CharacterSheet& sheet) {
+  std::string sentence(sheet.StartingMoneyText.View());
+  const std::string_view goods[] = {sheet.InheritedWeapon, sheet.InheritedArmor, sheet.InheritedShieldHelmet,
+                                    sheet.InheritedMount, sheet.InheritedDeed};
+  for (const std::string_view good : goods) {
+    if (!good.empty()) sentence += ", " + std::string(good);
+  }
+  return sentence;
+}
+
+void RunFamilyAndQuirks(Game& game) {
+  if (game.sheet.SiblingCount != 0) RunSiblings(game);
+  RunCherryPick(game);  // also after an abort among the siblings: it decides what happens next
+  PayQuirks(game);
+  ApplyQuirkEffects(game);
+}
+
+void RunClassChoice(Game& game) {
+  const bool isHalfBlood = std::ranges::any_of(kHalfBloods, [&](auto race) { return game.sheet.RaceName == race; });
+  if (isHalfBlood && game.run.BuildingPoints >= kTakeAfterBP) RunTakeAfter(game);
+  RunStepNine(game);
+}
+
+/// Youth, spells and money. A death or an abort in one of them ends the later ones too.
+void RunBackground(Game& game) {
+  constexpr void (*kStages[])(Game&) = {RunFighterYouth, RunMageYouth, RunPriestYouth, ChooseSpells, RunStepTen};
+  for (const auto stage : kStages) {
+    if (IsAt(game, 10)) stage(game);
+  }
+  if (!game.sheet.InheritedWeapon.Empty()) game.platform.ShowMessage(InheritanceSentence(game.sheet));
+}
+
+void TellHonor(Game& game) {
+  ComputeHonor(game);
+  game.platform.ShowMessage(Format("Your Honor is %i. This gives you an Honor Die of %i.", game.sheet.Honor,
+                                   game.sheet.HonorDie));
+  game.run.CurrentStep = 12;
+}
+
+void FinishCharacter(Game& game) {
+  RunEquip(game);
+  game.run.CurrentStep = 20;
+  RollRefereeQuirks(game);
+  UpdateMainTitle(game, game.sheet.CharacterName);
+  if (!game.platform.Confirms("Save", Format("Save your character - %s?", game.sheet.CharacterName))) return;
+  if (AskAndSaveCharacter(game)) UpdateMainTitle(game, game.sheet.CharacterName);
+}
+
+}  // namespace
+
+void CashInBuildingPoints(Game& game) {
+  const int started = game.sheet.GoldPieces;
+  const float bp = game.run.BuildingPoints;
+  game.sheet.GoldPieces = TruncateToInt(static_cast<float>(started) + bp * kGoldPerBP);
+  game.platform.ShowMessage(Format("You started with %i GP. Your %g BPs have been cashed in. You now have %i gold.",
+                                   started, bp, game.sheet.GoldPieces));
+  game.run.BuildingPoints = 0;
+}
+
+void RollRefereeQuirks(Game& game) {
+  auto& counts = game.sheet.QuirkCounts;
+  const auto isUsable = [&](int row) {
+    const QuirkRecord& quirk = QuirkTable()[static_cast<std::size_t>(row)];
+    return !Contains(quirk.Name, game.sheet.RaceName) && !Contains(quirk.Name, game.sheet.ClassName) &&
+           quirk.MaxCount >= counts[static_cast<std::size_t>(row)];
+  };
+  for (std::size_t row = 1; row < kQuirkRows; ++row) {
+    if (QuirkTable()[row].Kind != kRefereeQuirk) continue;
+    for (int left = counts[row]; left > 0; --left) {
+      const TableResult result = RollTableUntilRow(game, QuirkTable()[row].NextTable, isUsable);
+      if (!result.IsRow()) break;
+      ++counts[static_cast<std::size_t>(result.Row)];
+      --counts[row];
+    }
+  }
+}
+
+void RunGeneration(Game& game) {
+  RunStepSix(game);
+  if (IsAt(game, 7)) RunFamilyAndQuirks(game);
+  if (IsAt(game, 8)) RunStepEight(game);
+  if (IsAt(game, 9)) RunClassChoice(game);
+  if (IsAt(game, 10)) RunBackground(game);
+  if (IsAt(game, 11)) TellHonor(game);
+  if (game.run.BuildingPoints < 0) game.run.BuildingPoints = 0;  // on every path: no debt reaches the skills
+  if (IsAt(game, 12)) {
+    RunSkillSetup(game);
+    RunSkills(game);
+  }
+  if (IsAt(game, 13)) {
+    CashInBuildingPoints(game);
+    game.run.CurrentStep = 14;
+  }
+  if (game.sheet.Wisdom.Whole < kLowestFreeWisdom && IsAt(game, 14)) {
+    game.sheet.Alignment = "Neutral  ";  // with two blanks, as the sheets print it
+    game.run.CurrentStep = 15;
+  }
+  if (IsAt(game, 14)) RunStepFourteen(game);
+  if (IsAt(game, 15)) RunStepEightteen(game);
+  if (IsAt(game, 19)) FinishCharacter(game);
+}
+
+}  // namespace veld

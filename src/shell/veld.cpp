@@ -1,0 +1,28 @@
+#include "shell/veld.h"
+
+#include "shell/data_folder.h"
+#include "shell/main_menu.h"
+#include "shell/main_title.h"
+#include "shell/start_up.h"
+
+namespace veld {
+
+int RunVeld(Platform& platform) {
+  const bool hasFolder = EnterDataFolder(UserDataFolder(), ShippedDataFolder());
+  const auto game = MakeGame(platform);
+  MainWindow window;
+  window.Title = kProgramTitle;
+  window.Menu = MainMenu();
+  window.onStart = [&] {
+    if (!hasFolder) {
+      platform.ShowMessage(Format("The data folder %s can not be used. VELD works in the folder it was started in.",
+                                  UserDataFolder().string()));
+    }
+    StartUp(*game);
+  };
+  window.onCommand = [&](int id) { RunMainCommand(*game, id); };
+  platform.RunMainWindow(window);
+  return 0;
+}
+
+}  // namespace veld

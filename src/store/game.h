@@ -1,0 +1,73 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <string>
+
+#include "platform/platform.h"
+#include "rules/equipment_catalogue.h"
+#include "rules/spell_catalogue.h"
+#include "store/character_sheet.h"
+#include "store/generation_run.h"
+
+namespace veld {
+
+/// The books and optional rules a generation may use, 1 on and 0 off. The core rules are always on.
+enum RuleSwitch : std::size_t {
+  kCoreRules = 0,
+  kHexwrightsAlmanac = 1,
+  kWarmongersAlmanac = 2,
+  kSwindlersAlmanac = 3,
+  kDevoteesAlmanac = 4,
+  kBeastGrid = 5,
+  kRollYourOwnDice = 6,
+  kBronzeMetropolis = 7,
+  kSocialClassRestrictions = 8,
+  kPostedFixes = 9,
+  kTavernGazette12 = 10,
+  kSmallFortModule = 11,
+  kTitanTrilogyModule = 12,
+  kRuleSwitches = 20,
+};
+
+/// Where dice.log lines go: each line opens, appends and closes the file; a long run of rolls may hold it open; rolls
+/// that are no player's (measurements) leave no line.
+enum class DiceLogMode { EachLine, HeldOpen, Off };
+
+/// The dice engine's state, and the texts that it shares with the rules that roll.
+struct DiceState {
+  std::uint32_t RandomState = 0;
+  std::string DiceLabel;        ///< what the next roll is for; fewer than 3 characters count as none
+  std::string RollContextText;  ///< the sentence a prompt shows
+  std::int64_t DiceEntryValue = 0;
+  DiceLogMode LogMode = DiceLogMode::EachLine;
+  int LogFile = -1;             ///< while held open
+};
+
+/// All that the program remembers. Big: made once on the heap by MakeGame and only ever passed by reference.
+struct Game {
+  explicit Game(Platform& p) : platform(p) {}
+
+  Platform& platform;
+  CharacterSheet sheet;
+  GenerationRun run;
+  DiceState dice;
+  std::array<int, kRuleSwitches> RuleSwitches{};
+  std::array<EquipmentRecord, kEquipmentRows> EquipmentTable{};
+  std::array<EquipmentRecord, kEquipmentRows> CustomEquipmentTable{};
+  std::array<SpellRecord, kSpellRows> SpellTable{};
+  std::string TextScratch;            ///< the name that a purchase or grant is for
+  std::shared_ptr<Form> stepThree;    ///< the open StepThree window
+
+  bool IsOn(std::size_t ruleSwitch) const { return ruleSwitch < kRuleSwitches && RuleSwitches[ruleSwitch] == 1; }
+};
+
+/// A game with an empty character, all rule switches on and empty catalogues of goods and spells.
+std::unique_ptr<Game> MakeGame(Platform& platform);
+
+/// Puts the character, the run and all quantities owned to their defaults, the core rules on, and seeds the dice with
+/// the clock. Keeps the player's name and what the catalogues hold.
+void ResetCharacter(Game& game);
+
+}  // namespace veld

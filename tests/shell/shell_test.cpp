@@ -1,0 +1,188 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "rules/quirk_table.h"
+#include "shell/data_folder.h"
+#include "shell/main_menu.h"
+#include "shell/options_dialog.h"
+#include "shell/save_by_extension.h"
+#include "shell/sequencer.h"
+#include "shell/start_up.h"
+#include "store/side_files.h"
+#include "support/scripted_platform.h"
+#include "text/search.h"
+
+namespace veld {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::FileText;
+using testing::ScriptedPlatform;
+using testing::TestFolder;
+using testing::WriteText;
+
+class ShellTest : public ::testing::Test {
+ protected:
+  ShellTest() {
+    game->RuleSwitches[kRollYourOwnDice] = 0;
+    game->dice.LogMode = DiceLogMode::Off;
+  }
+
+  TestFolder folder;
+  ScriptedPlatform platform;
+  std::unique_ptr<Game> game = MakeGame(platform);
+};
+
+TEST_F(ShellTest, AFirstStartTellsWhatIsMissingAndCreatesWhatIsTheUsers) {
+  StartUp(*game);
+  EXPECT_TRUE(platform.Showed("VELD: Problem Loading options.vlb file. Will create new one now."));
+  EXPECT_TRUE(platform.Showed("Problem Loading cequip.vlb file. Will create new one now."));
+  EXPECT_TRUE(platform.Showed("Problem Loading equip.vlb file"));
+  EXPECT_TRUE(platform.Showed("Problem Loading Spell file"));
+  EXPECT_EQ(fs::file_size("options.vlb"), 84U);
+  EXPECT_EQ(fs::file_size("cequip.vlb"), 84000U);
+  EXPECT_TRUE(game->IsOn(kRollYourOwnDice)) << "on a first run every switch is on";
+
+  platform.messages.clear();
+  fs::copy_file(std::string(VELD_DATA_DIR) + "/equip.vlb", "equip.vlb");
+  fs::copy_file(std::string(VELD_DATA_DIR) + "/spells.vld", "spells.vld");
+  StartUp(*game);
+  EXPECT_TRUE(platform.messages.empty()) << platform.messages.front();
+  EXPECT_FALSE(game->EquipmentTable[0].Name.Empty());
+  EXPECT_FALSE(game->SpellTable[766].Name == "Empty");
+  EXPECT_EQ(game->SpellTable[767].Name, "Empty");
+}
+
+TEST_F(ShellTest, OptionsShowTheFileAndApplyWritesIt) {
+  game->RuleSwitches.fill(1);
+  SaveOptions(*game);
+  game->RuleSwitches[kRollYourOwnDice] = 0;  // "Turn This Off" holds for this run only
+  platform.ExpectForm("Options", [](Form& form) {
+    EXPECT_TRUE(form.IsChecked(3036));
+    form.Mark(3036, false);
+    form.Mark(3031, false);
+    form.PressDefault();
+  });
+  RunOptions(*game);
+  game->RuleSwitches.fill(7);
+  LoadOptions(*game);
+  EXPECT_FALSE(game->IsOn(kRollYourOwnDice));
+  EXPECT_FALSE(game->IsOn(kTitanTrilogyModule));
+  EXPECT_TRUE(game->IsOn(kBeastGrid));
+  EXPECT_TRUE(game->IsOn(kCoreRules));
+  EXPECT_TRUE(game->IsOn(13)) << "switches without a box survive";
+
+  platform.ExpectForm("Options", [](Form& form) {
+    form.Mark(3015, false);
+    form.PressCloseBox();
+  });
+  RunOptions(*game);
+  EXPECT_TRUE(game->IsOn(kBeastGrid)) << "closed without Apply";
+}
+
+TEST_F(ShellTest, TheExtensionAnywhereInThePathChoosesTheWriter) {
+  SaveByExtension(*game, "hero.vlf");
+  EXPECT_TRUE(platform.Showed("File saved in vlf format"));
+  SaveByExtension(*game, "old.vlf.txt");
+  EXPECT_EQ(FileText("old.vlf.txt").substr(0, 3), "4.5") << "the character file comes first";
+  for (const char* path : {"hero.doc", "hero", "hero.HTML"}) {
+    platform.messages.clear();
+    SaveByExtension(*game, path);
+    EXPECT_TRUE(platform.Showed("VELD: Problem Saving Character: invalid file extension")) << path;
+    EXPECT_FALSE(fs::exists(path));
+  }
+}
+
+TEST_F(ShellTest, MenuCommandsNameTheCharacterInMemory) {
+  game->sheet.CharacterName = "Ada/Bo";
+  platform.ExpectSavePath("ada.vlf");
+  RunMainCommand(*game, kSave);
+  EXPECT_EQ(platform.mainTitle, "Tolmar's Plain Quellmarch Toolkit - Ada/Bo - is in memory");
+
+  RunMainCommand(*game, kNewCharacter);
+  EXPECT_EQ(platform.mainTitle, "Tolmar's Plain Quellmarch Toolkit - Nobody - is in memory");
+  ASSERT_TRUE(game->stepThree);
+  const std::shared_ptr<Form> first = game->stepThree;
+  RunMainCommand(*game, kNewCharacter);
+  EXPECT_TRUE(first->IsClosed());
+
+  const std::shared_ptr<Form> second = game->stepThree;
+  platform.ExpectOpenPath("ada.vlf");
+  RunMainCommand(*game, kLoad);
+  EXPECT_TRUE(second->IsClosed());
+  EXPECT_EQ(game->sheet.CharacterName, "Ada/Bo");
+  EXPECT_EQ(platform.mainTitle, "Tolmar's Plain Quellmarch Toolkit - Ada/Bo - is in memory");
+
+  WriteText("odd.vlf", "nothing of ours");
+  platform.ExpectOpenPath("odd.vlf");
+  RunMainCommand(*game, kLoad);
+  EXPECT_TRUE(platform.Showed("This file can not be loaded."));
+  EXPECT_EQ(game->sheet.CharacterName, "Ada/Bo");
+
+  platform.ExpectForm("About", [](Form& form) {
+    EXPECT_EQ(form.Text(98), "Version 4.5");
+    form.PressDefault();
+  });
+  RunMainCommand(*game, kAbout);
+  RunMainCommand(*game, kExit);
+  EXPECT_TRUE(platform.mainWindowClosed);
+}
+
+TEST_F(ShellTest, LeftOverPointsBecomeGoldFractionsIncluded) {
+  game->sheet.GoldPieces = 100;
+  game->run.BuildingPoints = 3.5F;
+  CashInBuildingPoints(*game);
+  EXPECT_EQ(game->sheet.GoldPieces, 187);
+  EXPECT_EQ(game->run.BuildingPoints, 0);
+  EXPECT_TRUE(
+      platform.Showed("You started with 100 GP. Your 3.5 BPs have been cashed in. You now have 187 gold."));
+  game->run.BuildingPoints = 1e30F;
+  CashInBuildingPoints(*game);
+  EXPECT_GT(game->sheet.GoldPieces, 0) << "gold stays in its field";
+}
+
+TEST_F(ShellTest, RefereeQuirksAreReplacedByResultsOfTheirTables) {
+  std::size_t referee = 0;
+  for (std::size_t row = 1; row < kQuirkRows && referee == 0; ++row) {
+    if (QuirkTable()[row].Kind == kRefereeQuirk && !QuirkTableRows(QuirkTable()[row].NextTable).empty()) referee = row;
+  }
+  ASSERT_NE(referee, 0U);
+  const auto results = QuirkTableRows(QuirkTable()[referee].NextTable);
+  game->sheet.RaceName = "Pixie Fairy";
+  game->sheet.QuirkCounts[referee] = 2;
+  RollRefereeQuirks(*game);
+  EXPECT_EQ(game->sheet.QuirkCounts[referee], 0);
+  int gained = 0;
+  for (const int row : results) gained += game->sheet.QuirkCounts[static_cast<std::size_t>(row)];
+  EXPECT_EQ(gained, 2);
+
+  for (const int row : results) game->sheet.QuirkCounts[static_cast<std::size_t>(row)] = -1;
+  game->sheet.QuirkCounts[referee] = 2;
+  RollRefereeQuirks(*game);
+  EXPECT_EQ(game->sheet.QuirkCounts[referee], 2) << "kept when its table can give nothing";
+}
+
+TEST(DataFolderTest, TheUsersFolderGetsWhatShipsAndKeepsWhatItHas) {
+  TestFolder folder;
+  fs::create_directories("shipped");
+  WriteText("shipped/equip.vlb", "goods");
+  WriteText("shipped/spells.vld", "spells");
+  const fs::path start = fs::current_path();
+  ASSERT_TRUE(EnterDataFolder(start / "home" / "veld", start / "shipped"));
+  EXPECT_EQ(fs::current_path(), start / "home" / "veld");
+  EXPECT_EQ(FileText("equip.vlb"), "goods");
+  WriteText("equip.vlb", "my goods");
+  WriteText("options.vlb", "");
+  ASSERT_TRUE(EnterDataFolder(start / "elsewhere", start / "shipped"));
+  EXPECT_EQ(fs::current_path(), start / "home" / "veld") << "a folder with its own options is stayed in";
+  fs::current_path(start);
+  ASSERT_TRUE(EnterDataFolder(start / "home" / "veld", start / "shipped"));
+  EXPECT_EQ(FileText("equip.vlb"), "my goods");
+  fs::current_path(start);
+  WriteText("blocked", "a file");
+  EXPECT_FALSE(EnterDataFolder(start / "blocked" / "veld", {}));
+}
+
+}  // namespace
+}  // namespace veld

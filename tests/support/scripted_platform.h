@@ -1,0 +1,92 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/platform.h"
+
+namespace veld::testing {
+
+/// The player of a test: answers what the program asks from a script, in order, and keeps all that was shown.
+/// A question, form or path that the script does not expect next fails the test and is closed as its close box would.
+/// Messages need no script; they are only kept.
+class ScriptedPlatform : public Platform {
+ public:
+  ~ScriptedPlatform() override;
+
+  // The script.
+  void ExpectForm(std::string name, std::function<void(Form&)> act);  ///< act must close the form
+  void ExpectQuestion(std::string part, Answer answer);               ///< part of its caption or text
+  void ExpectOpenPath(std::string path);                              ///< empty: cancelled
+  void ExpectSavePath(std::string path);
+  void CancelProgressAt(int percent) { cancelAt_ = percent; }
+  /// Answers every question that the script does not expect next, instead of failing.
+  void AnswerOthers(Answer answer) { others_ = answer; }
+
+  // What was shown.
+  std::vector<std::string> messages;   ///< "caption: text"
+  std::vector<std::string> questions;  ///< "caption: text"
+  std::vector<std::string> forms;      ///< names
+  std::string mainTitle;
+  std::int64_t now = 1;                ///< the clock; ResetCharacter seeds the dice with it
+  std::shared_ptr<Form> window;        ///< the window shown last by ShowWindow
+  bool mainWindowClosed = false;
+  std::vector<int> progress;
+  bool Showed(std::string_view part) const;  ///< a message held this text
+  std::size_t StepsLeft() const { return script_.size(); }
+
+  void RunForm(Form& form) override;
+  void ShowWindow(std::shared_ptr<Form> form) override;
+  void RunMainWindow(const MainWindow& window) override;
+  void CloseMainWindow() override { mainWindowClosed = true; }
+  void SetMainTitle(std::string_view title) override { mainTitle = std::string(title); }
+  void BeginProgress(std::string_view caption, std::string_view text) override;
+  bool ShowProgress(int percent) override;
+  void EndProgress() override {}
+  std::int64_t Now() const override { return now; }
+
+ protected:
+  void DoShowMessage(const std::string& caption, const std::string& text) override;
+  Answer DoAskYesNo(const std::string& caption, const std::string& text) override;
+  std::optional<std::string> DoAskOpenPath(const std::string& caption, std::span<const FileFilter> filters) override;
+  std::optional<ChosenPath> DoAskSavePath(const std::string& caption, std::span<const FileFilter> filters,
+                                          const std::string& suggestedName) override;
+
+ private:
+  enum class Kind { Form, Question, OpenPath, SavePath };
+  struct Step {
+    Kind kind = Kind::Form;
+    std::string text;
+    std::function<void(Form&)> act = {};
+    Answer reply = Answer::Closed;
+  };
+  bool Next(Kind kind, std::string_view shown, Step& step);
+
+  std::deque<Step> script_;
+  std::optional<Answer> others_;
+  int cancelAt_ = 101;
+};
+
+/// A folder of its own for a test, made the working directory until the test ends and removed with all that is in it.
+class TestFolder {
+ public:
+  TestFolder();
+  ~TestFolder();
+  TestFolder(const TestFolder&) = delete;
+  TestFolder& operator=(const TestFolder&) = delete;
+  const std::string& Path() const { return path_; }
+
+ private:
+  std::string path_;
+  std::string before_;
+};
+
+/// The whole text of a file; empty if it can't be read.
+std::string FileText(const std::string& path);
+std::vector<std::string> FileLines(const std::string& path);
+void WriteText(const std::string& path, std::string_view text);
+
+}  // namespace veld::testing
