@@ -231,8 +231,8 @@ bool BeginsList(Source& source, const Line& line, std::size_t spells, SpellList&
 void CheckSpell(Source& source, const Line& line) {
   // The widths are those of SpellRecord; the program doesn't turn "_" into blanks in the fields that may have none.
   constexpr std::array<std::string_view, kSpellColumns> names = {
-      "the name",         "the school", "the specialization", "the range",       "the component", "the duration",
-      "the casting time", "the area",   "the saving throw",   "the book's name",
+      "the name",     "the school",       "the specialization", "the range",        "the component",
+      "the duration", "the casting time", "the area",           "the saving throw", "the book's name",
   };
   for (std::size_t column = 0; column < kSpellColumns; ++column) {
     const std::string_view text = line.Columns[column];

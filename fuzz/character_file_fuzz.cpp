@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "fuzz_support.h"
+#include "silent_platform.h"
 #include "store/character_file.h"
 
 using namespace veld;
@@ -10,7 +11,7 @@ using fuzz::Require;
 
 namespace {
 
-fuzz::SilentPlatform platform;
+SilentPlatform platform;
 
 /// Makes the draft the character of a game whose player has no goods of his own, and saves that.
 std::string TakeAndSave(Game& game, const CharacterDraft& draft) {

@@ -5,9 +5,11 @@
 #include "shell/about.h"
 #include "shell/main_title.h"
 #include "shell/options_dialog.h"
+#include "shell/recover_dialog.h"
 #include "shell/save_by_extension.h"
 #include "shell/sequencer.h"
 #include "steps/step_three.h"
+#include "store/recovery.h"
 
 namespace veld {
 
@@ -15,6 +17,7 @@ namespace {
 
 void NewCharacter(Game& game) {
   CloseStepThree(game);
+  LeaveRecoveryCopy(game);
   UpdateMainTitle(game, "Nobody");
   ResetCharacter(game);
   RollAbilityScores(game);
@@ -27,7 +30,13 @@ void Save(Game& game) {
 
 void Load(Game& game) {
   CloseStepThree(game);
+  LeaveRecoveryCopy(game);
   if (AskAndLoadCharacter(game)) UpdateMainTitle(game, game.sheet.CharacterName);
+}
+
+void RecoverCharacter(Game& game) {
+  CloseStepThree(game);
+  if (RunRecover(game)) UpdateMainTitle(game, game.sheet.CharacterName);
 }
 
 }  // namespace
@@ -39,6 +48,7 @@ std::vector<MenuItem> MainMenu() {
        .Items = {{.Id = kNewCharacter, .Text = "&New Character"},
                  {.Id = kSave, .Text = "&Save"},
                  {.Id = kLoad, .Text = "&Load"},
+                 {.Id = kRecover, .Text = "&Recover"},
                  later(kEdit, "&Edit"),
                  later(kInputCharacter, "&Input own character"),
                  {.Id = kExit, .Text = "E&xit"}}},
@@ -58,6 +68,7 @@ void RunMainCommand(Game& game, int id) {
     case kNewCharacter: return NewCharacter(game);
     case kSave: return Save(game);
     case kLoad: return Load(game);
+    case kRecover: return RecoverCharacter(game);
     case kExit: return game.platform.CloseMainWindow();
     case kDiceTester: return RunDiceTester(game);
     case kOptions: return RunOptions(game);

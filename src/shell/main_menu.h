@@ -13,6 +13,7 @@ inline constexpr int kSave = 3033;
 inline constexpr int kLoad = 3034;
 inline constexpr int kEdit = 3035;
 inline constexpr int kInputCharacter = 3036;
+inline constexpr int kRecover = 3037;
 inline constexpr int kCriticalHits = 3099;
 inline constexpr int kDiceTester = 5555;
 inline constexpr int kCustomItems = 5557;

@@ -5,6 +5,7 @@
 #include "shell/main_title.h"
 #include "shell/pending_stages.h"
 #include "shell/save_by_extension.h"
+#include "store/recovery.h"
 #include "text/search.h"
 
 namespace veld {
@@ -15,7 +16,7 @@ namespace {
 constexpr bool kYouthTablesStand = false;
 
 constexpr float kGoldPerBP = 25.0F;
-constexpr int kLowestFreeWisdom = 6;      ///< below, the alignment is no choice
+constexpr int kLowestFreeWisdom = 6;
 constexpr float kTakeAfterBP = 30.0F;     ///< BP at which a half-blood may take after a parent's race
 constexpr int kLowestMiddleClass = 7;     ///< SocialClassIndex below this forces a mage into the rustic package
 constexpr float kRusticPackageBP = 6.0F;
@@ -31,7 +32,13 @@ constexpr std::string_view kHalfBloods[] = {"Half-elf", "Half-orc", "Half-ogre",
 
 bool HasClass(const Game& game, std::size_t classRow) { return game.sheet.ClassLevels[classRow] > 0; }
 bool IsSingleClass(const Game& game) { return !Contains(game.sheet.LevelText, "/"); }
-bool IsAt(const Game& game, int step) { return game.run.CurrentStep == step; }
+
+/// Runs a stage if its step is due, with a recovery copy of what the character is by then.
+void RunAt(Game& game, int step, void (*stage)(Game&)) {
+  if (game.run.CurrentStep != step) return;
+  KeepRecoveryCopy(game);
+  stage(game);
+}
 
 /// Whether the player wants an almanac's tables for a class of its group.
 bool AsksForYouth(Game& game, std::size_t book, int isOfGroup, std::string_view almanac) {
@@ -111,9 +118,7 @@ void RunClassChoice(Game& game) {
 /// Youth, spells and money. A death or an abort in one of them ends the later ones too.
 void RunBackground(Game& game) {
   constexpr void (*kStages[])(Game&) = {RunFighterYouth, RunMageYouth, RunPriestYouth, ChooseSpells, RunStepTen};
-  for (const auto stage : kStages) {
-    if (IsAt(game, 10)) stage(game);
-  }
+  for (const auto stage : kStages) RunAt(game, 10, stage);
   if (!game.sheet.InheritedWeapon.Empty()) game.platform.ShowMessage(InheritanceSentence(game.sheet));
 }
 
@@ -122,6 +127,18 @@ void TellHonor(Game& game) {
   game.platform.ShowMessage(Format("Your Honor is %i. This gives you an Honor Die of %i.", game.sheet.Honor,
                                    game.sheet.HonorDie));
   game.run.CurrentStep = 12;
+}
+
+void RunSkillStep(Game& game) {
+  RunSkillSetup(game);
+  RunSkills(game);
+}
+
+/// Without wisdom the alignment is no choice.
+void TakeForcedAlignment(Game& game) {
+  if (game.sheet.Wisdom.Whole >= kLowestFreeWisdom) return;
+  game.sheet.Alignment = "Neutral  ";  // with two blanks, as the sheets print it
+  game.run.CurrentStep = 15;
 }
 
 void FinishCharacter(Game& game) {
@@ -142,6 +159,7 @@ void CashInBuildingPoints(Game& game) {
   game.platform.ShowMessage(Format("You started with %i GP. Your %g BPs have been cashed in. You now have %i gold.",
                                    started, bp, game.sheet.GoldPieces));
   game.run.BuildingPoints = 0;
+  game.run.CurrentStep = 14;
 }
 
 void RollRefereeQuirks(Game& game) {
@@ -163,28 +181,20 @@ void RollRefereeQuirks(Game& game) {
 }
 
 void RunGeneration(Game& game) {
+  KeepRecoveryCopy(game);
   RunStepSix(game);
-  if (IsAt(game, 7)) RunFamilyAndQuirks(game);
-  if (IsAt(game, 8)) RunStepEight(game);
-  if (IsAt(game, 9)) RunClassChoice(game);
-  if (IsAt(game, 10)) RunBackground(game);
-  if (IsAt(game, 11)) TellHonor(game);
+  RunAt(game, 7, RunFamilyAndQuirks);
+  RunAt(game, 8, RunStepEight);
+  RunAt(game, 9, RunClassChoice);
+  RunAt(game, 10, RunBackground);
+  RunAt(game, 11, TellHonor);
   if (game.run.BuildingPoints < 0) game.run.BuildingPoints = 0;  // on every path: no debt reaches the skills
-  if (IsAt(game, 12)) {
-    RunSkillSetup(game);
-    RunSkills(game);
-  }
-  if (IsAt(game, 13)) {
-    CashInBuildingPoints(game);
-    game.run.CurrentStep = 14;
-  }
-  if (game.sheet.Wisdom.Whole < kLowestFreeWisdom && IsAt(game, 14)) {
-    game.sheet.Alignment = "Neutral  ";  // with two blanks, as the sheets print it
-    game.run.CurrentStep = 15;
-  }
-  if (IsAt(game, 14)) RunStepFourteen(game);
-  if (IsAt(game, 15)) RunStepEightteen(game);
-  if (IsAt(game, 19)) FinishCharacter(game);
+  RunAt(game, 12, RunSkillStep);
+  RunAt(game, 13, CashInBuildingPoints);
+  RunAt(game, 14, TakeForcedAlignment);
+  RunAt(game, 14, RunStepFourteen);
+  RunAt(game, 15, RunStepEightteen);
+  RunAt(game, 19, FinishCharacter);
 }
 
 }  // namespace veld

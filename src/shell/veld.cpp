@@ -4,6 +4,7 @@
 #include "shell/main_menu.h"
 #include "shell/main_title.h"
 #include "shell/start_up.h"
+#include "store/recovery.h"
 
 namespace veld {
 
@@ -22,6 +23,7 @@ int RunVeld(Platform& platform) {
   };
   window.onCommand = [&](int id) { RunMainCommand(*game, id); };
   platform.RunMainWindow(window);
+  KeepRecoveryCopy(*game);
   return 0;
 }
 

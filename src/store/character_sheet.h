@@ -5,13 +5,13 @@
 #include <type_traits>
 
 #include "rules/ability.h"
+#include "rules/class_table.h"
 #include "text/fixed_text.h"
 
 namespace veld {
 
 // Rows of the arrays of a character. A row number is a catalogue row's identity: it goes to character files and is
 // compared literally by rules, so catalogues only ever grow at their end.
-inline constexpr std::size_t kClassRows = 200;
 inline constexpr std::size_t kLevels = 100;
 inline constexpr std::size_t kLevelSum = 99;   ///< element of a level table that holds the sum of the others
 inline constexpr int kHighestLevel = 98;

@@ -52,6 +52,7 @@ struct CharacterFormat {
 };
 
 /// The versions that can be read, the one that is written last.
+// clang-format off
 inline constexpr CharacterFormat kCharacterFormats[] = {
     // Version  Classes  LevelClasses  Quirks  Skills  Cleric
     {"3.8.1",   100,     100,          0,      300,    false},
@@ -61,6 +62,7 @@ inline constexpr CharacterFormat kCharacterFormats[] = {
     {"4.2.1",   200,     200,          700,    500,    false},
     {"4.5",     200,     200,          700,    500,    true},
 };
+// clang-format on
 inline constexpr const CharacterFormat& kCurrentFormat = kCharacterFormats[5];
 static_assert(kCurrentFormat.Version == FileVersion && kCurrentFormat.Classes == kClassRows &&
               kCurrentFormat.Quirks == kQuirkCountRows && kCurrentFormat.Skills == kSkillRows);

@@ -59,6 +59,7 @@ struct Game {
   std::array<SpellRecord, kSpellRows> SpellTable{};
   std::string TextScratch;            ///< the name that a purchase or grant is for
   std::shared_ptr<Form> stepThree;    ///< the open StepThree window
+  bool hasRecoveryCopy = false;       ///< the character in memory has a recovery copy of its own
 
   bool IsOn(std::size_t ruleSwitch) const { return ruleSwitch < kRuleSwitches && RuleSwitches[ruleSwitch] == 1; }
 };

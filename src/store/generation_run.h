@@ -26,6 +26,7 @@ struct GenerationRun {
   // Quirks and flaws (Step 7).
   std::array<int, kQuirkCountRows> QuirkPicks{};
   std::array<int, kQuirkCountRows> QuirkBPCosts{};  ///< what a row pays now: its BPCost, or its RepeatBP once taken
+  std::array<int, kQuirkCountRows> QuirkBarred{};   ///< 1: wiped out by a row that is held; its MaxCount counts as 0
   int QuirkRollsLeft = 0;
   int UsesThiefBackground = 0;
   int ArmAmputations = 0;

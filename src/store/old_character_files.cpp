@@ -1,6 +1,6 @@
 #include "store/old_character_files.h"
 
-#include <iterator>
+#include <span>
 
 namespace veld {
 
@@ -25,6 +25,7 @@ struct QuirkCode {
 constexpr QuirkRun Row(std::size_t row, char code = 0) { return {row, row, 1, code}; }
 constexpr std::size_t kNoRow = 0;
 
+// clang-format off
 constexpr QuirkCode kQuirkCodes[] = {
     // Code  1    2
     {'A',    35,  36},   // arm amputated, or both
@@ -34,15 +35,17 @@ constexpr QuirkCode kQuirkCodes[] = {
 };
 
 constexpr QuirkRun kAfterBurden[] = {
-    {1, 10},   {13, 22}, {26, 30}, {33, 34}, Row(kNoRow, 'A'), Row(kNoRow, 'B'), {39, 46}, Row(kNoRow, 'C'), {48, 49},
-    {51, 68},  {71, 79}, Row(79),  // twice: the second stands. Row 80 was never in these files.
-    {81, 83},  {86, 98}, {100, 101}, {296, 304}, {104, 115}, {117, 120}, {124, 133},
+    {1, 10},  {13, 22}, {26, 30}, {33, 34}, Row(kNoRow, 'A'), Row(kNoRow, 'B'), {39, 46}, Row(kNoRow, 'C'),
+    {48, 49}, {51, 68},
+    {71, 79}, Row(79),  // twice: the second stands. Row 80 was never in these files.
+    {81, 83},   {86, 98},   {100, 101}, {296, 304}, {104, 115}, {117, 120}, {124, 133},
     {135, 153, 2}, {134, 152, 2},  // odd rows, then even rows
     {154, 172}, {174, 183}, {185, 203}, {205, 223}, {225, 243}, {245, 294},
 };
 constexpr QuirkRun kAfterHair[] = {{457, 469}};
 constexpr QuirkRun kAfterMageBackground[] = {{306, 309}, Row(311), Row(312, 'D'), {316, 359}};
 constexpr QuirkRun kAfterSpellBooks[] = {{360, 378}, Row(456), Row(455)};
+// clang-format on
 
 std::span<const QuirkRun> RunsAt(QuirkPlace place) {
   switch (place) {

@@ -5,7 +5,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <atomic>
 #include <cerrno>
 #include <cstdio>
 #include <filesystem>
@@ -104,9 +103,8 @@ class TemporaryFile {
 
  private:
   int make() {
-    static std::atomic<unsigned> serial = 0;
-    for (int tries = 0; tries < 1000; ++tries) {
-      const std::string name = Format(".veld-%i-%u.tmp", getpid(), serial++);
+    for (int serial = 0; serial < 1000; ++serial) {
+      const std::string name = Format(".veld-%i-%i.tmp", getpid(), serial);
       path_ = folder_.empty() ? name : folder_ + "/" + name;
       const int file = open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
       if (file >= 0 || errno != EEXIST) return file;

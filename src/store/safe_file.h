@@ -26,8 +26,8 @@ struct SaveWay {
 /// no regular file, is not replaced.
 bool SaveWholeFile(const std::string& path, std::string_view bytes, SaveWay way = {});
 
-/// Keeps `old`, the contents of the file at `path`, beside it as ".bak" before they are overwritten for good. An earlier
-/// backup with other contents stays, and the next free of ".bak2" to ".bak99" is taken.
+/// Keeps `old`, the contents of the file at `path`, beside it as ".bak" before they are overwritten for good. An
+/// earlier backup with other contents stays, and the next free of ".bak2" to ".bak99" is taken.
 bool KeepBackup(const std::string& path, std::string_view old, SaveWay way = {});
 
 }  // namespace veld

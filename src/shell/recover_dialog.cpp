@@ -1,0 +1,46 @@
+#include "shell/recover_dialog.h"
+
+#include "store/recovery.h"
+
+namespace veld {
+
+namespace {
+
+constexpr int kCopies = 3021;
+constexpr int kOk = 1;
+constexpr int kCancel = 2;
+
+constexpr ControlTemplate kRecoverControls[] = {
+    LabelAt(0, 0, "&Characters that were in memory, the latest first"),
+    ListAt(1, 0, kCopies, 60, kRecoveryCopies),
+    ButtonAt(2, 0, kOk, "&Recover", ButtonRole::Default),
+    ButtonAt(2, 0, kCancel, "Cancel", ButtonRole::Cancel),
+};
+constexpr FormTemplate kRecoverTemplate{"Recover", "Recover", kRecoverControls};
+
+}  // namespace
+
+bool RunRecover(Game& game) {
+  const std::vector<RecoveryCopy> copies = RecoveryCopies();
+  if (copies.empty()) {
+    game.platform.ShowMessage("There is no character to recover.");
+    return false;
+  }
+  Form form(kRecoverTemplate);
+  std::vector<std::string> lines;
+  for (const RecoveryCopy& copy : copies) lines.push_back(Format("%s, %s, %s", copy.Name, copy.ClassName, copy.Time));
+  form.SetItems(kCopies, std::move(lines));
+  form.Select(kCopies, 0);
+  int chosen = -1;
+  form.onCommand = [&](int id) {
+    if (id == kOk) chosen = form.Selection(kCopies);
+    form.Close();
+  };
+  game.platform.RunForm(form);
+  if (chosen < 0) return false;
+  if (Recover(game, copies[static_cast<std::size_t>(chosen)].Path)) return true;
+  game.platform.ShowMessage("This file can not be loaded.");
+  return false;
+}
+
+}  // namespace veld

@@ -1,0 +1,532 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <set>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "rules/class_grants.h"
+#include "rules/class_table.h"
+#include "rules/proficiency_table.h"
+#include "rules/skill_prices.h"
+#include "rules/skill_table.h"
+#include "rules/skills_tsv.h"
+#include "rules/talent_prices.h"
+#include "rules/talent_table.h"
+#include "text/numbers.h"
+#include "text/search.h"
+
+namespace veld {
+namespace {
+
+const SkillRecord& Skill(std::string_view name) {
+  return SkillTable().at(static_cast<std::size_t>(FindSkillRow(name)));
+}
+
+/// A character of plain arrays for the rules to look at.
+struct Candidate {
+  std::array<int, 200> levels{};
+  std::array<int, 500> scores{};
+  std::array<std::array<int, 50>, 50> members{};
+  std::array<int, 150> talentFlags{};
+  std::array<int, 50> talent2Flags{};
+  std::array<int, 20> switches{};
+  SkillBuyer buyer;
+
+  Candidate() {
+    switches.fill(1);
+    buyer.RaceName = "Human";
+    buyer.ClassName = "Fighter";
+    buyer.PackageName = "None";
+    buyer.ClassLevels = levels;
+    buyer.SkillScores = scores;
+    buyer.FamilyScores = members;
+    buyer.TalentFlags = talentFlags;
+    buyer.Talent2Flags = talent2Flags;
+    buyer.RuleSwitches = switches;
+  }
+  Candidate(const Candidate&) = delete;
+  Candidate& operator=(const Candidate&) = delete;
+
+  Candidate& Level(int classRow) {
+    levels.at(static_cast<std::size_t>(classRow)) = 1;
+    return *this;
+  }
+  Candidate& Level(std::string_view className) { return Level(FindClassRow(className)); }
+  Candidate& Holds(std::string_view skill, int mastery) {
+    scores.at(static_cast<std::size_t>(FindSkillRow(skill))) = mastery;
+    return *this;
+  }
+  float Price(std::string_view skill) const { return SkillPrice(FindSkillRow(skill), buyer); }
+  float FamilyPrice(std::string_view family) const { return SkillFamilyPrice(FindSkillFamilyRow(family), buyer); }
+  std::string Lacks(std::string_view skill) const { return LackingPrerequisite(FindSkillRow(skill), buyer); }
+  std::string Closed(std::string_view skill) const { return SkillRestriction(FindSkillRow(skill), buyer); }
+};
+
+template <typename Table>
+int CountNamed(const Table& table) {
+  return static_cast<int>(std::count_if(table.begin(), table.end(), [](const auto& row) { return !row.Name.empty(); }));
+}
+
+template <typename Table>
+void ExpectEachNameFindsItsRow(const Table& table, int (*find)(std::string_view), std::size_t nameWidth) {
+  for (std::size_t row = 0; row < table.size(); ++row) {
+    const std::string_view name = table[row].Name;
+    if (name.empty()) continue;
+    EXPECT_EQ(find(name), static_cast<int>(row)) << name;
+    EXPECT_EQ(find(TrimRight(name)), static_cast<int>(row)) << name;
+    EXPECT_LT(name.size(), nameWidth) << name;
+    EXPECT_LT(table[row].Book, 20) << name;
+  }
+  EXPECT_EQ(find(""), -1);
+  EXPECT_EQ(find("   "), -1);
+  EXPECT_EQ(find("No such thing"), -1);
+}
+
+TEST(Catalogues, EveryNameFindsItsOwnRowWithAndWithoutItsBlanks) {
+  ExpectEachNameFindsItsRow(SkillTable(), FindSkillRow, 60);
+  ExpectEachNameFindsItsRow(SkillTable2(), FindSkillFamilyRow, 60);
+  ExpectEachNameFindsItsRow(TalentTable(), FindTalentRow, 52);
+  ExpectEachNameFindsItsRow(TalentTable2(), FindTalentFamilyRow, 52);
+  ExpectEachNameFindsItsRow(ProficiencyTable(), FindProficiencyRow, 52);
+  ExpectEachNameFindsItsRow(ProficiencyTable2(), FindProficiencyAbilityRow, 52);
+  EXPECT_EQ(CountNamed(SkillTable()), 318);
+  EXPECT_EQ(CountNamed(SkillTable2()), 22);
+  EXPECT_EQ(CountNamed(TalentTable()), 148);
+  EXPECT_EQ(CountNamed(TalentTable2()), 8);
+  EXPECT_EQ(CountNamed(ProficiencyTable()), 136);
+  EXPECT_EQ(CountNamed(ProficiencyTable2()), 1);
+}
+
+TEST(Catalogues, NamesAreSoughtInLongerTextsWithCaseAndBlanks) {
+  EXPECT_EQ(FindSkillRow("SpellCraft"), -1);
+  EXPECT_EQ(FindSkillRow("Social Ettiquette"), -1);
+  EXPECT_EQ(FindSkillRow("Spellcraft 45."), 2);
+  EXPECT_EQ(FindSkillRow("Swimming: Dog Paddle 12."), FindSkillRow("Swimming: Dog Paddle"));
+  EXPECT_EQ(FindSkillRow("Wilderness Running 30."), FindSkillRow("Wilderness Running"));
+  EXPECT_EQ(FindProficiencyRow("Kusari-gama (Sickle on Chain)"), 130);
+  EXPECT_EQ(FindProficiencyRow("Staff Sling - Limited"), FindProficiencyRow("Staff Sling"));
+  EXPECT_EQ(FindTalentRow("Death Magic Bonus"), 120);
+  EXPECT_EQ(FindTalentRow("Divine Smite"), -1);
+  EXPECT_EQ(FindTalentFamilyRow("Divine Smite"), 7);
+}
+
+TEST(Catalogues, AMemberOfAFamilyIsKnownBeforeThePlainSkillInItsName) {
+  EXPECT_EQ(FindSkill("Artistic Ability: Singing").Kind, SkillKind::Instance);
+  EXPECT_EQ(FindSkill("Artistic Ability: Singing").Row, 13);
+  EXPECT_EQ(FindSkill("Artistic Ability").Kind, SkillKind::Family);
+  EXPECT_EQ(FindSkill("Singing").Kind, SkillKind::Plain);
+  EXPECT_EQ(FindSkill("Art Appreciation: Subset: Painting").Kind, SkillKind::Plain);
+  EXPECT_EQ(FindSkill("").Kind, SkillKind::None);
+}
+
+TEST(SkillTables, LinksNameRowsInUse) {
+  for (const SkillRecord& skill : SkillTable()) {
+    std::vector<int> links(skill.Prerequisites.begin(), skill.Prerequisites.end());
+    links.insert(links.end(), skill.SuiteMembers.begin(), skill.SuiteMembers.end());
+    for (const int link : links) {
+      if (link == kNoSkillLink) continue;
+      ASSERT_NE(LinkedSkill(link), nullptr) << skill.Name;
+      EXPECT_FALSE(LinkedSkill(link)->Name.empty()) << skill.Name;
+      EXPECT_NE(LinkedSkill(link), &skill) << skill.Name;
+    }
+    EXPECT_EQ(skill.Category == SkillCategory::None, skill.Name.empty());
+    EXPECT_LE(skill.Category, SkillCategory::Barbarian);
+    const bool isSuite = skill.Category == SkillCategory::Suite;
+    if (isSuite) {
+      EXPECT_NE(skill.SuiteMembers[0], kNoSkillLink) << skill.Name;
+    }
+  }
+  EXPECT_EQ(LinkedSkill(kNoSkillLink), nullptr);
+  EXPECT_EQ(LinkedSkill(500), nullptr);
+  EXPECT_EQ(LinkedSkill(-50), nullptr);
+  EXPECT_EQ(LinkedSkill(-19)->Name, "Riding, Land-based");
+}
+
+TEST(SkillTables, SuitesThatTeachFamiliesRememberThemInAColumnOfTheirOwn) {
+  EXPECT_EQ(SuiteCode(228), 1);
+  EXPECT_EQ(SuiteCode(235), 5);
+  EXPECT_EQ(SuiteCode(229), 0);
+}
+
+std::vector<std::string> Split(const std::string& text, char separator) {
+  std::vector<std::string> parts(1);
+  for (const char c : text) {
+    if (c == separator) {
+      parts.emplace_back();
+    } else {
+      parts.back() += c;
+    }
+  }
+  return parts;
+}
+
+TEST(SkillsSheet, HasALineForEveryRowOfBothTables) {
+  const std::vector<std::string> lines = Split(SkillsTsv(), '\n');
+  ASSERT_EQ(lines.size(), 552u);  // head, 500 and 50 rows, nothing after the last line end
+  EXPECT_EQ(lines.back(), "");
+  for (std::size_t i = 0; i + 1 < lines.size(); ++i) EXPECT_EQ(Split(lines[i], '\t').size(), 10u) << lines[i];
+  const auto line = [&](std::string_view name) { return lines.at(static_cast<std::size_t>(FindSkillRow(name)) + 1); };
+  EXPECT_EQ(line("Pinch"), "Pinch\tADC pg 328\tDEX\tTasks: Sophisticated\t1\tADC\t0\t1d0\t0%\t");
+  EXPECT_EQ(
+      line("Begging (Panhandling)"),
+      "Begging (Panhandling)\tSWA pg 63\tCHA\tSkills: Social Interaction\t2\tDVA\t400\t1d4\t0%\tBegging (General) ");
+  EXPECT_EQ(Split(line("Veterinary Healing"), '\t')[5], "BG");
+  EXPECT_EQ(Split(line("Engineering: Fortifications"), '\t')[9], "Engineering      ");
+  EXPECT_EQ(Split(line("Historian Skill Suite"), '\t')[9],
+            "Ancient History Local History Reading/Writing History: World ");
+  EXPECT_EQ(lines[400], "\t\t\tAll-in-One\t0\tADC\t0\t0d0\t0%\t");
+}
+
+TEST(SkillPrices, RulesWorkOnWhatEarlierOnesLeft) {
+  Candidate myrmidon;
+  EXPECT_EQ(myrmidon.Price("Armorer"), 10);
+  myrmidon.buyer.PackageName = "Myrmidon";
+  EXPECT_EQ(myrmidon.Price("Armorer"), 9);
+  EXPECT_EQ(myrmidon.Price("Heraldry"), 1) << "never below 1 before the class rules";
+  myrmidon.Level("Zealot of Pangrus (Pangrite)").Level("Zealot of Skraad (Toiler)");
+  EXPECT_EQ(myrmidon.Price("Armorer"), 6);
+  EXPECT_EQ(myrmidon.FamilyPrice("Reading/Writing"), 1);
+
+  Candidate disciplined;
+  disciplined.buyer.SelfDisciplinePrice = 3;
+  EXPECT_EQ(disciplined.Price("Maintain Self-Discipline"), 3);
+  disciplined.Level("Zealot of Pangrus (Pangrite)");
+  EXPECT_EQ(disciplined.Price("Maintain Self-Discipline"), 2);
+
+  Candidate falconer;
+  falconer.buyer.PackageName = "Falconer";
+  EXPECT_EQ(falconer.Price("Leatherworking"), 2);
+}
+
+TEST(SkillPrices, MagesStudyAtHalfAndFightAtDoublePriceUnlessTheyAreGnomeTitans) {
+  Candidate mage;
+  mage.buyer.ClassIsMage = 1;
+  EXPECT_EQ(mage.Price("Alchemy"), 3.5F);
+  EXPECT_EQ(mage.Price("Brawler"), 4);
+  EXPECT_EQ(mage.FamilyPrice("Ancient History"), 0.5F);
+  mage.buyer.RaceName = "Gnome Titan";
+  EXPECT_EQ(mage.Price("Brawler"), 2);
+
+  Candidate fighter;
+  fighter.buyer.RaceName = "Gnome Titan";
+  EXPECT_EQ(fighter.Price("Brawler"), 1);
+  EXPECT_EQ(fighter.Price("Military: Battle Sense"), 4.5F);
+  EXPECT_EQ(fighter.FamilyPrice("Military History"), 0.5F);
+}
+
+TEST(SkillPrices, ClassesHaveSkillsOfTheirOwn) {
+  EXPECT_EQ(Candidate().Level("Sole Practitioner: Hypnotist").Price("Dragon Speak"), 5);
+  EXPECT_EQ(Candidate().Level("Sole Practitioner: Power Speaker").Price("Evil Speak"), 2.5F);
+  EXPECT_EQ(Candidate().Level("Zealot of Luvia (Scale)").Price("Poker Face"), 1);
+  EXPECT_EQ(Candidate().Level("Zealot of Luvia (Scale)").Holds("Poker Face", 20).Price("Poker Face"), 3);
+  EXPECT_EQ(Candidate().Level("Zealot of Shona (Shonite)").Price("Kick 1. Circle Kick"), 1.5F);
+  EXPECT_EQ(Candidate().Level("Zealot of Marlog (Sea Dawgs)").Price("Mingling (Balls, Parties)"), 5);
+  Candidate thief;
+  EXPECT_EQ(thief.Price("Trailing"), 2);
+  thief.buyer.ClassIsThief = 1;
+  EXPECT_EQ(thief.Price("Trailing"), 1);
+  EXPECT_EQ(SkillPrice(-1, thief.buyer) + SkillPrice(400, thief.buyer) + SkillPrice(500, thief.buyer), 0);
+}
+
+TEST(SkillRestrictions, TellWhomASkillIsClosedTo) {
+  Candidate anyone;
+  EXPECT_EQ(anyone.Closed("Pinch"), "The Skill: Pinch is restricted to Thieves");
+  EXPECT_EQ(anyone.Closed("Outdoor Craft"), "The Skill: Outdoor Craft is restricted to Barbarians");
+  EXPECT_EQ(anyone.Closed("Tracking"), "");
+  anyone.buyer.ClassIsThief = 1;
+  anyone.Level("Barbarian");
+  EXPECT_EQ(anyone.Closed("Pinch"), "");
+  EXPECT_EQ(anyone.Closed("Outdoor Craft"), "");
+
+  anyone.buyer.Intelligence = 19;
+  anyone.buyer.Charisma = 14;
+  EXPECT_EQ(anyone.Closed("Dragon Speak"),
+            "The Skill Dragon Speak requires a minimum of a 19 Intelligence and 15 Charisma");
+  anyone.buyer.Charisma = 15;
+  EXPECT_EQ(anyone.Closed("Dragon Speak"), "");
+  EXPECT_EQ(Candidate().Level("Zealot of Druaga (Droog)").Closed("Dragon Speak"), "");
+}
+
+TEST(SkillPrerequisites, AskForFiftyInEachUntilTheSkillIsHeld) {
+  Candidate student;
+  EXPECT_EQ(student.Lacks("Swimming"),
+            "Skill: Swimming requires a 50 or greater skill mastery in Swimming: Dog Paddle");
+  EXPECT_NE(student.Holds("Swimming: Dog Paddle", 49).Lacks("Swimming"), "");
+  EXPECT_EQ(student.Holds("Swimming: Dog Paddle", 50).Lacks("Swimming"), "");
+  EXPECT_EQ(Candidate().Holds("Swimming", 1).Lacks("Swimming"), "");
+  EXPECT_EQ(student.Lacks("Speed Reading"),
+            "Skill: Speed Reading requires a 50 or greater skill mastery in Reading/Writing");
+  student.members[17][0] = 50;
+  EXPECT_EQ(student.Lacks("Speed Reading"), "");
+  EXPECT_EQ(LackingFamilyPrerequisite(18, student.buyer),
+            "Skill: Riding, Airborne requires a 50 or greater skill mastery in Riding, Land-based");
+  EXPECT_NE(student.Lacks("Set Traps, Advanced"), "");
+  student.buyer.ClassIsThief = 1;
+  EXPECT_EQ(student.Lacks("Set Traps, Advanced"), "");
+}
+
+TEST(SkillBudgets, AreUsedUpFirstAndOnlyWhenThePurchaseCanBePaid) {
+  float budget = 2;
+  float points = 4;
+  DrawOnBudget(7, budget, points);  // 6 do not pay 7
+  EXPECT_EQ(budget, 2);
+  DrawOnBudget(5, budget, points);
+  EXPECT_EQ(budget, 0);
+  EXPECT_EQ(points, 6);
+  budget = 10;
+  DrawOnBudget(0, budget, points);
+  EXPECT_EQ(budget, 10) << "a grant is free";
+  DrawOnBudget(3, budget, points);
+  EXPECT_EQ(budget, 7);
+  EXPECT_EQ(points, 9);
+
+  float cost = 5;
+  float package = 3;
+  PayFromPackage(cost, package, 1);
+  EXPECT_EQ(cost, 5);
+  PayFromPackage(cost, package, 2);
+  EXPECT_EQ(cost, 2);
+  EXPECT_EQ(package, 0);
+
+  Candidate hermit;
+  hermit.buyer.PackageName = "Hermit";
+  EXPECT_TRUE(PackagePaysFor(FindSkillRow("Weaving"), hermit.buyer));
+  EXPECT_TRUE(PackagePaysForFamily(17, hermit.buyer));
+  EXPECT_FALSE(PackagePaysFor(FindSkillRow("Botany"), hermit.buyer));
+}
+
+TEST(SkillRolls, SomeClassesRollTheCourseDieAgain) {
+  const auto rolls = [](const Candidate& who, std::string_view skill) {
+    return SkillExtraRolls(FindSkillRow(skill), who.buyer);
+  };
+  Candidate peacenik;
+  peacenik.Level(86);
+  EXPECT_EQ(rolls(peacenik, "Diplomacy").Rolls, 2);
+  EXPECT_EQ(rolls(peacenik, "Diplomacy").Extra, 0);
+  Candidate expounder;
+  expounder.Level(74);
+  EXPECT_EQ(rolls(expounder, "Astrology").Extra, 2);
+  Candidate duellist;
+  duellist.Level("Swashbuckler");
+  EXPECT_EQ(rolls(duellist, "Berate").Rolls, 1);
+  EXPECT_EQ(rolls(duellist, "Flex Muscle").Rolls, 0);
+  duellist.Level("Bounty Hunter");
+  EXPECT_EQ(rolls(duellist, "Berate").Rolls, 2);
+  EXPECT_EQ(rolls(duellist, "Berate").Extra, 1);
+  Candidate myrmidon;
+  myrmidon.buyer.PackageName = "Myrmidon";
+  EXPECT_EQ(rolls(myrmidon, "Military: Operations").Rolls, 0);
+  Candidate amazon;
+  amazon.buyer.AmazonDoubleRoll = 1;
+  EXPECT_TRUE(rolls(amazon, "Hunting").AsksAmazon);
+  EXPECT_FALSE(rolls(amazon, "Fishing").AsksAmazon);
+  EXPECT_TRUE(SkillFamilyExtraRolls(19, amazon.buyer).AsksAmazon);
+}
+
+TEST(SkillMastery, StartsFromTheAbilitiesNamed) {
+  const std::array<int, kAbilityCount> scores = {16, 13, 12, 11, 10, 9, 8};
+  EXPECT_EQ(StartingMastery("DEX", scores), 13);
+  EXPECT_EQ(StartingMastery("(INT+WIS)/2", scores), 10);
+  EXPECT_EQ(StartingMastery("(STR+DEX+INT)/3", scores), 13);
+  EXPECT_EQ(StartingMastery(Skill("Jousting").MasteryAbilities, scores), 20) << "three abilities, halved";
+  EXPECT_EQ(StartingMastery("", scores), 0);
+
+  Candidate trailblazer;
+  trailblazer.buyer.PackageName = "Trailblazer";
+  EXPECT_EQ(FirstPurchaseBonus(FindSkillRow("Mapless Travel"), trailblazer.buyer), 50);
+  Candidate falconer;
+  falconer.buyer.PackageName = "Falconer";
+  EXPECT_EQ(RowSetByFalconer(FindSkillRow("Hunting"), 1, 1, falconer.buyer), FindSkillRow("Interrogation"));
+  EXPECT_EQ(RowSetByFalconer(FindSkillRow("Hunting"), 2, 1, falconer.buyer), -1);
+  falconer.Holds("Identify Animal by Tracks", 50);
+  EXPECT_EQ(RowSetByFalconer(FindSkillRow("Hunting"), 1, 1, falconer.buyer), -1);
+}
+
+TEST(SkillDemands, CountWhatPackagesAndClassesInsistOn) {
+  Candidate warrior;
+  EXPECT_EQ(UnmetSkillDemand(warrior.buyer), "");
+  warrior.buyer.PackageName = "Wilderness Warrior";
+  EXPECT_TRUE(UnmetSkillDemand(warrior.buyer).starts_with("The Wilderness Warrior Package requires"));
+  warrior.Holds("Forestry", 1);
+  warrior.members[19][3] = 12;
+  warrior.members[19][4] = 12;
+  EXPECT_EQ(UnmetSkillDemand(warrior.buyer), "");
+  warrior.buyer.PackageName = "Amazon";
+  EXPECT_TRUE(UnmetSkillDemand(warrior.buyer).starts_with("The Amazon Package requires")) << "a family counts once";
+  warrior.Holds("Running", 1).Holds("Hunting", 1);
+  EXPECT_EQ(UnmetSkillDemand(warrior.buyer), "");
+}
+
+TEST(ClassGrantLists, SetAMasteryBeforeThePurchasesThatAskForIt) {
+  std::set<std::string_view> lost;
+  for (const ClassRecord& record : ClassTable()) {
+    for (const bool trained : {false, true}) {
+      std::set<int> needed;
+      for (const ClassGrant& grant : ClassGrants(record.Name, trained)) {
+        const SkillMatch bought = grant.Kind == GrantKind::Buy ? FindSkill(grant.Name) : SkillMatch{};
+        if (grant.Kind == GrantKind::Set || grant.Kind == GrantKind::Raise) {
+          EXPECT_FALSE(needed.contains(grant.Row)) << record.Name << ": " << grant.Name;
+        }
+        if (grant.Kind == GrantKind::Buy && bought.Kind == SkillKind::None) lost.insert(grant.Name);
+        if (bought.Kind == SkillKind::Plain) {
+          const auto& links = SkillTable()[static_cast<std::size_t>(bought.Row)].Prerequisites;
+          needed.insert(links.begin(), links.end());
+        }
+        if (!grant.Name.empty() && grant.Kind != GrantKind::Buy) {
+          EXPECT_GE(grant.Row, 0) << grant.Name;
+        }
+        EXPECT_EQ(grant.Name.find_first_of("[]=><|"), std::string_view::npos) << grant.Name;
+      }
+    }
+  }
+  const std::set<std::string_view> misspelt = {
+      "Social Ettiquette",  "Horse",     "Identify Animal By Tracks", "SpellCraft", "Juggling",
+      "Campaign Logistics", "Pimp Slap", "Slip Away Into Shadows"};
+  EXPECT_EQ(lost, misspelt);
+}
+
+TEST(ClassGrantLists, ReadTheNotationOfEachKind) {
+  const auto knight = ClassGrants("Holy Knight", false);
+  ASSERT_EQ(knight.size(), 1u);
+  EXPECT_EQ(knight[0].Kind, GrantKind::Pick);
+  EXPECT_EQ(knight[0].Row, SkillFamily::LandRiding);
+  EXPECT_EQ(knight[0].Value, 50);
+
+  EXPECT_EQ(ClassGrants("Barbarian", false).size(), 2u);
+  const auto trained = ClassGrants("Barbarian", true);
+  ASSERT_GT(trained.size(), 6u);
+  EXPECT_EQ(trained[0].Kind, GrantKind::SurvivalPick);
+  EXPECT_EQ(trained[6].Kind, GrantKind::NewMember);
+  EXPECT_EQ(trained[6].Name, "Riding, Land-based: Horse");
+
+  const auto deneiri = ClassGrants("Zealot of Deneir (Deneiri)", false);
+  ASSERT_EQ(deneiri.size(), 3u);
+  EXPECT_EQ(deneiri[2].Kind, GrantKind::FirstLanguage);
+  EXPECT_EQ(deneiri[2].Value, 90);
+  const auto sailor = ClassGrants("Zealot of Markovia (Sopie)", false);
+  EXPECT_EQ(sailor.back().Kind, GrantKind::NewTalent);
+  EXPECT_EQ(sailor.back().Row, FindTalentFamilyRow("Elemental Resistance"));
+  EXPECT_TRUE(ClassGrants("Thief", false).empty());
+  EXPECT_TRUE(ClassGrants("", true).empty());
+}
+
+TEST(TalentPrices, FollowPackageAndClass) {
+  Candidate mage;
+  mage.buyer.PackageName = "Militaristic Magic-User";
+  EXPECT_EQ(TalentPrice("Ambidextrous", mage.buyer), 10);
+  EXPECT_EQ(TalentPrice("Endurance", mage.buyer), 5);
+  EXPECT_EQ(TalentPrice("Cold Resistance", mage.buyer), 10);
+  mage.buyer.PackageName = "Myrmidon";
+  EXPECT_EQ(TalentPrice("Endurance", mage.buyer), 3);
+  mage.buyer.RaceName = "High Elf";
+  EXPECT_EQ(TalentPrice("Endurance", mage.buyer), 5);
+  mage.buyer.PackageName = "None";
+  mage.buyer.ClassName = "Sole Practitioner: Sniper";
+  EXPECT_EQ(TalentPrice("Precise Targeting", mage.buyer), 2);
+  mage.buyer.ClassName = "Zealot of Shona (Shonite)";
+  EXPECT_EQ(TalentPrice("Axe Bonus", mage.buyer), 2) << "halves are dropped";
+  EXPECT_EQ(TalentPrice("Damage Bonus", mage.buyer), 2);
+  mage.buyer.ClassName = "Zealot of Hokalas (Keyholder)";
+  EXPECT_EQ(TalentPrice("Concentration", mage.buyer), 10);
+  EXPECT_EQ(TalentPrice("School Resistant", mage.buyer), 18);
+  mage.buyer.CrossbowBonusDiscount = 3;
+  EXPECT_EQ(TalentPrice("Crossbow Bonus", mage.buyer), 3);
+  mage.buyer.RaceName = "Dwarf";
+  EXPECT_EQ(TalentPrice("Crossbow Bonus", mage.buyer), 5);
+  EXPECT_EQ(TalentPrice("No such talent", mage.buyer), 0);
+}
+
+TEST(TalentOffers, AddWhatClassAndBackgroundOpenToTheRacesOwn) {
+  Candidate keyholder;
+  keyholder.buyer.ClassName = "Zealot of Hokalas (Keyholder)";
+  keyholder.buyer.ClassIsCleric = 1;
+  keyholder.talentFlags[static_cast<std::size_t>(FindTalentRow("Fast Cast"))] = 1;
+  keyholder.talentFlags[static_cast<std::size_t>(FindTalentRow("Sixth Sense"))] = -1;
+  const auto offers = [&](std::string_view name) {
+    const auto further = FurtherTalents(keyholder.buyer);
+    return std::count(further.begin(), further.end(), name);
+  };
+  const std::vector<std::string_view> ofRace = {"Fast Cast"};
+  EXPECT_EQ(TalentsOpenToRace(keyholder.buyer), ofRace);
+  EXPECT_EQ(TalentsOfRace(keyholder.buyer), std::vector<int>{60});
+  EXPECT_EQ(offers("Fast Cast"), 0) << "the race's list has it";
+  EXPECT_EQ(offers("Spell Razor"), 1);
+  EXPECT_EQ(offers("Divine Smite"), 1);
+  keyholder.switches[1] = 0;
+  EXPECT_EQ(offers("Fast Cast"), 1);
+  EXPECT_TRUE(TalentsOpenToRace(keyholder.buyer).empty());
+  keyholder.switches[4] = 0;
+  EXPECT_EQ(offers("Divine Smite"), 0);
+  EXPECT_EQ(offers("Bow Bonus"), 0);
+  keyholder.buyer.BowBonusDiscount = 5;
+  EXPECT_EQ(offers("Bow Bonus"), 1);
+}
+
+/// The mean of a damage text, a roll below 1 counting as 1; 0 for "-".
+double MeanDamage(std::string_view damage) {
+  const std::size_t d = damage.find('d');
+  if (d == std::string_view::npos) return ReadDecimalPrefix(damage);
+  const int count = SaturateToInt(ReadNumberPrefix(damage));
+  const int sides = SaturateToInt(ReadNumberPrefix(damage.substr(d + 1)));
+  const std::size_t sign = damage.find_first_of("+-");
+  const int bonus = sign == std::string_view::npos ? 0 : SaturateToInt(ReadNumberPrefix(damage.substr(sign)));
+  if (count > 1) return count * (sides + 1) / 2.0 + bonus;
+  double sum = 0;
+  for (int face = 1; face <= sides; ++face) sum += std::max(1, face + bonus);
+  return sum / sides;
+}
+
+const ProficiencyRecord& Weapon(std::string_view name) {
+  return ProficiencyTable().at(static_cast<std::size_t>(FindProficiencyRow(name)));
+}
+
+TEST(WeaponLines, AreFilledForWeaponsAndEmptyForStyles) {
+  for (const ProficiencyRecord& weapon : ProficiencyTable()) {
+    const bool isWeapon = !weapon.Name.empty() && weapon.SpecializationCost != kUnspecializable;
+    for (const std::string_view damage : weapon.Damage) {
+      EXPECT_EQ(damage.empty(), !isWeapon) << weapon.Name;
+      EXPECT_LT(damage.size(), 8u) << weapon.Name;
+      if (isWeapon && damage != "-") {
+        EXPECT_GE(MeanDamage(damage), 1) << weapon.Name;
+      }
+    }
+    EXPECT_EQ(weapon.DamageType.empty(), !isWeapon) << weapon.Name;
+    EXPECT_EQ(weapon.WeaponSize.empty(), !isWeapon) << weapon.Name;
+    EXPECT_TRUE(weapon.HitModifier >= -1 && weapon.HitModifier <= 6) << weapon.Name;
+  }
+}
+
+TEST(WeaponLines, FollowTheHabitsOfTheirKind) {
+  for (const ProficiencyRecord& weapon : ProficiencyTable()) {
+    const bool longHafted = weapon.Name.starts_with("Polearm:") || weapon.Name == "Lance: Heavy horse";
+    for (std::size_t size = 1; size < weapon.Damage.size(); ++size) {
+      const double change = MeanDamage(weapon.Damage[size]) - MeanDamage(weapon.Damage[size - 1]);
+      if (weapon.DamageType == "C" && weapon.Name != "Bottle, Empty" && weapon.Name != "Bottle, Full") {
+        EXPECT_LE(change, 0) << weapon.Name << size;
+      }
+      if (weapon.DamageType == "H" || longHafted) {
+        EXPECT_GE(change, 0) << weapon.Name << size;
+      }
+    }
+  }
+  const auto outdoes = [](std::string_view greater, std::string_view lesser) {
+    for (std::size_t size = 0; size < 6; ++size) {
+      EXPECT_GT(MeanDamage(Weapon(greater).Damage[size]), MeanDamage(Weapon(lesser).Damage[size]))
+          << greater << " against " << lesser << size;
+    }
+  };
+  outdoes("Polearm: Halberd", "Dagger");
+  outdoes("Sword: Two-handed", "Sword: Short");
+  outdoes("Mace: Footman's, Huge", "Mace: Footman's, Large");
+  outdoes("Mace: Footman's, Large", "Mace: Footman's");
+  outdoes("Crossbow: Heavy", "Crossbow: Light");
+  outdoes("Crossbow: Light", "Crossbow: Peashooter");
+  outdoes("Great Spear", "Spear");
+  outdoes("Unconscious: half-ogre", "Unconscious: halfling");
+}
+
+}  // namespace
+}  // namespace veld
