@@ -103,7 +103,8 @@ BENCHMARK(FloorResetTheCharacter)->Unit(benchmark::kMicrosecond);
 void WriteSpellFile() {
   std::ofstream file("spells.vld");
   for (std::size_t row = 0; row < kSpellRecords; ++row) {
-    file << "Some_Spell_" << row << " Conjuration/Summoning Conjurer 10_yards_per_level V,S,M 1_turn_per_level 3_segments "
+    file << "Some_Spell_" << row
+         << " Conjuration/Summoning Conjurer 10_yards_per_level V,S,M 1_turn_per_level 3_segments "
          << "One_creature_or_object_touched Negates 4 Magic-user_Level_4 ADC\n";
   }
 }

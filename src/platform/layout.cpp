@@ -31,6 +31,12 @@ bool Stretches(ControlKind kind) {
   return kind == ControlKind::List || kind == ControlKind::MultiLine || kind == ControlKind::Text;
 }
 
+/// Can do with less width than it wants: it scrolls, or its end is left out.
+bool Shrinks(ControlKind kind) {
+  return Stretches(kind) || kind == ControlKind::Result || kind == ControlKind::Edit || kind == ControlKind::Combo ||
+         kind == ControlKind::Progress;
+}
+
 bool IsWriting(ControlKind kind) {
   return kind == ControlKind::Title || kind == ControlKind::Heading || kind == ControlKind::Label ||
          kind == ControlKind::Result;
@@ -67,6 +73,7 @@ struct Cell {
 struct Column {
   bool IsUsed = false;
   bool CanStretch = false;
+  bool CanShrink = false;
   int Width = 0;
   int Least = 0;        ///< what it keeps when the page is narrow
   int ButtonWidth = 0;  ///< of the buttons that stand alone in their places, so that they are all of one width
@@ -92,6 +99,7 @@ struct Page {
   std::vector<PlacedControl> placed = {};  ///< one for each control of the form, visible or not
   int firstLine = 0;                       ///< lines kept free for the menu's button above the first row
   bool isRoomy = true;
+  bool hasBlanks = true;  ///< blank lines above headings and for row numbers left out
 
   const Control& At(std::size_t control) const { return form.Controls()[control]; }
   ControlKind KindOf(std::size_t control) const { return At(control).Template.Kind; }
@@ -253,15 +261,16 @@ void MeasureColumns(Page& page) {
   for (const Cell& cell : page.cells) {
     Column& column = page.ColumnAt(cell.Column);
     const int width = NaturalWidth(page, cell);
-    const bool stretches = page.HasKind(cell, Stretches);
-    if (stretches) page.ColumnAt(LastUsedColumn(page, cell)).CanStretch = true;
+    const bool shrinks = page.HasKind(cell, Shrinks);
+    if (page.HasKind(cell, Stretches)) page.ColumnAt(LastUsedColumn(page, cell)).CanStretch = true;
+    if (shrinks) page.ColumnAt(LastUsedColumn(page, cell)).CanShrink = true;
     if (cell.Controls.size() == 1 && page.KindOf(cell.Controls.front()) == ControlKind::Button) {
       column.ButtonWidth = std::max(column.ButtonWidth, width);
     }
     if (cell.ColumnSpan > 1) spanning.push_back(&cell);
     if (cell.ColumnSpan > 1 && cell.IsFree) continue;
     column.Width = std::max(column.Width, width);
-    if (!stretches) column.Least = std::max(column.Least, width);
+    if (!shrinks) column.Least = std::max(column.Least, width);
   }
   std::ranges::stable_sort(spanning, {}, [](const Cell* cell) { return cell->ColumnSpan; });
   for (const Cell* cell : spanning) {
@@ -275,12 +284,14 @@ int ContentWidth(const Page& page) {
   return SpanWidth(page, Cell{.ColumnSpan = static_cast<int>(page.columns.size())});
 }
 
-/// Shares out `extra` width among the columns of lists and texts, or takes it from them if it is negative.
+/// Shares out `extra` width among the columns of lists and texts; if it is negative, takes it from all that can do with
+/// less.
 void StretchColumns(Page& page, int extra) {
-  int columns = static_cast<int>(std::ranges::count_if(page.columns, &Column::CanStretch));
+  bool Column::*const takesPart = extra > 0 ? &Column::CanStretch : &Column::CanShrink;
+  auto columns = std::ranges::count_if(page.columns, takesPart);
   for (Column& column : page.columns) {
-    if (!column.CanStretch) continue;
-    const int share = extra / columns--;
+    if (!(column.*takesPart)) continue;
+    const int share = extra / static_cast<int>(columns--);
     const int width = std::max(column.Width + share, std::min(column.Width, column.Least));
     extra -= width - column.Width;
     column.Width = width;
@@ -298,7 +309,8 @@ void PlaceAcross(Page& page, const Cell& cell) {
     const bool isLast = control == cell.Controls.back();
     area.X = x;
     area.Width = NaturalWidth(page, control);
-    if (left < 0 || Stretches(kind) || (isLast && (IsWriting(kind) || IsMark(kind) || kind == ControlKind::Progress))) {
+    if ((left < 0 && Shrinks(kind)) || Stretches(kind) ||
+        (isLast && (IsWriting(kind) || IsMark(kind) || kind == ControlKind::Progress))) {
       area.Width = std::max(area.Width + left, 0);
       left = 0;
     }
@@ -405,10 +417,10 @@ int LinesBetween(Page& page, int first, int last) {
   return lines;
 }
 
-/// A box of this density reaches below the line it stands on.
-bool BoxesHangOver(const Page& page) {
+/// How far a box of this density reaches below the line it stands on.
+int BoxOverhang(const Page& page) {
   const PageDensity& density = page.Density();
-  return page.metrics.Baseline - density.BoxRise + density.BoxHeight + page.metrics.FrameAbove > page.metrics.Pitch;
+  return page.metrics.Baseline - density.BoxRise + density.BoxHeight - page.metrics.Pitch;
 }
 
 bool RowHas(const Page& page, int row, bool (*isKind)(ControlKind)) {
@@ -418,6 +430,11 @@ bool RowHas(const Page& page, int row, bool (*isKind)(ControlKind)) {
 /// A row of headings only.
 bool IsHeadingRow(const Page& page, int row) {
   return !RowHas(page, row, [](ControlKind kind) { return kind != ControlKind::Heading; });
+}
+
+/// The lines that the menu's button takes in the corner.
+int CornerLines(const Page& page) {
+  return BoxOverhang(page) + page.metrics.FrameAbove > 0 ? 2 : 1;
 }
 
 void PlanRow(Page& page, int place, int cap) {
@@ -434,15 +451,16 @@ void PlanRow(Page& page, int place, int cap) {
       row.Lines = std::max(row.Lines, row.TextLine + WantedLines(page, cell, cap));
   }
   const bool isFirst = place == FirstRow(page);
-  if (isFirst && page.metrics.CornerWidth > 0 && page.firstLine == 0 && BoxesHangOver(page))
-    row.Lines = std::max(row.Lines, 2);
+  if (isFirst && page.metrics.CornerWidth > 0 && page.firstLine == 0)
+    row.Lines = std::max(row.Lines, CornerLines(page));
 }
 
 /// The blank line between a row and the one above it: under boxes that hang over their line, and above headings.
 int LinesBefore(Page& page, int place, int above) {
-  const bool isUnderBoxes = RowHas(page, above, IsBox) && !RowHas(page, place, IsBox) && BoxesHangOver(page);
+  const int frame = RowHas(page, place, Stretches) ? page.metrics.FrameAbove : 0;
+  const bool isUnderBoxes = RowHas(page, above, IsBox) && !RowHas(page, place, IsBox) && BoxOverhang(page) + frame > 0;
   const bool isUnderTitle = RowHas(page, above, [](ControlKind kind) { return kind == ControlKind::Title; });
-  return isUnderBoxes || (page.isRoomy && IsHeadingRow(page, place) && !isUnderTitle) ? 1 : 0;
+  return isUnderBoxes || (page.hasBlanks && IsHeadingRow(page, place) && !isUnderTitle) ? 1 : 0;
 }
 
 /// Gives each row its lines. Lists and texts want no more than `cap`. Returns the lines of the whole page.
@@ -458,7 +476,7 @@ int PlanRows(Page& page, int cap) {
       above = place;
       isAfterBlank = false;
     } else if (!row.IsKnown && above) {  // a row number left out is a blank line
-      row.Lines = row.IsCovered || (page.isRoomy && !isAfterBlank) ? 1 : 0;
+      row.Lines = row.IsCovered || (page.hasBlanks && !isAfterBlank) ? 1 : 0;
       isAfterBlank = true;
     }
   }
@@ -483,27 +501,27 @@ int HeightOfLines(const Page& page, int lines) {
   return page.metrics.MarginTop + lines * page.metrics.Pitch + page.metrics.MarginBottom;
 }
 
-/// Roomy if that fits; else densely; else with as many lines for lists and texts as fit.
+/// Roomy if that fits; else densely; else without blank lines; else with as many lines for lists and texts as fit.
 int FitRows(Page& page, int height) {
-  const auto plan = [&](bool isRoomy, int cap) {
+  const auto plan = [&](bool isRoomy, bool hasBlanks, int cap) {
     page.isRoomy = isRoomy;
-    page.firstLine = page.metrics.CornerWidth > 0 && !SharesCorner(page)
-                         ? std::max(page.Density().BoxLines, BoxesHangOver(page) ? 2 : 1)
-                         : 0;
+    page.hasBlanks = hasBlanks;
+    page.firstLine = page.metrics.CornerWidth > 0 && !SharesCorner(page) ? CornerLines(page) : 0;
     return PlanRows(page, cap);
   };
-  int lines = plan(true, kNoCap);
-  if (HeightOfLines(page, lines) <= height) return lines;
-  lines = plan(false, kNoCap);
-  if (HeightOfLines(page, lines) <= height) return lines;
-  int fits = kLeastLines;
+  const auto fits = [&](int lines) { return HeightOfLines(page, lines) <= height; };
+  int lines = plan(true, true, kNoCap);
+  if (!fits(lines)) lines = plan(false, true, kNoCap);
+  if (!fits(lines)) lines = plan(false, false, kNoCap);
+  if (fits(lines)) return lines;
+  int enough = kLeastLines;
   int tooMany = kLeastLines + 1;
   for (const Cell& cell : page.cells) tooMany = std::max(tooMany, WantedLines(page, cell, kNoCap));
-  while (tooMany - fits > 1) {
-    const int middle = fits + (tooMany - fits) / 2;
-    (HeightOfLines(page, plan(false, middle)) <= height ? fits : tooMany) = middle;
+  while (tooMany - enough > 1) {
+    const int middle = enough + (tooMany - enough) / 2;
+    (fits(plan(false, false, middle)) ? enough : tooMany) = middle;
   }
-  return plan(false, fits);
+  return plan(false, false, enough);
 }
 
 /// Shares out lines that are left over among the rows in which lists and texts of a wanted height end.
@@ -555,14 +573,15 @@ void PlaceDown(Page& page, const Cell& cell) {
       area.Y = placed.Baseline - density.BoxRise;
       area.Height = density.BoxHeight;
     } else if (IsMark(kind)) {
-      area.Y = placed.Baseline - m.Dense.BoxRise;
-      area.Height = m.Dense.BoxHeight;
+      area.Y = placed.Baseline - m.MarkRise;
+      area.Height = m.MarkHeight;
     } else if (Stretches(kind) && (kind != ControlKind::Text || placed.Scrolls)) {
       area.Y = top - m.FrameAbove;
       area.Height = placed.Lines * m.Pitch + m.FrameAbove;
     } else {
+      const int lines = kind == ControlKind::Title ? std::max(placed.Lines, density.TitleLines) : placed.Lines;
       area.Y = top;
-      area.Height = placed.Lines * m.Pitch - m.FrameAbove;
+      area.Height = lines * m.Pitch - m.FrameAbove;
     }
   }
 }
@@ -647,6 +666,10 @@ bool IsCaption(ControlKind kind) {
   return kind == ControlKind::Label || kind == ControlKind::Heading;
 }
 
+bool IsField(ControlKind kind) {
+  return kind == ControlKind::Edit || kind == ControlKind::Number || kind == ControlKind::Combo;
+}
+
 /// True if control `a` stands left of control `b` in the same row.
 bool IsLeftOf(const Form& form, std::size_t a, std::size_t b) {
   const ControlTemplate& left = form.Controls()[a].Template;
@@ -693,19 +716,19 @@ std::size_t NamedControl(const Form& form, std::size_t label) {
 std::string ControlName(const Form& form, std::size_t control) {
   const auto& controls = form.Controls();
   const std::size_t none = controls.size();
-  const bool isResult = controls[control].Template.Kind == ControlKind::Result;
+  const ControlKind self = controls[control].Template.Kind;
   for (std::size_t left = Neighbour(form, control, true); left < none; left = Neighbour(form, left, true)) {
     const ControlKind kind = controls[left].Template.Kind;
-    if (IsCaption(kind) || (isResult && kind == ControlKind::Button)) return ShownText(controls[left]);
-    // A row of fields is named by the one label before them.
-    const bool isField = kind == ControlKind::Edit || kind == ControlKind::Number || kind == ControlKind::Combo;
-    if (!isField && !(isResult && kind == ControlKind::Result)) break;
+    if (IsCaption(kind) || (self == ControlKind::Result && kind == ControlKind::Button))
+      return ShownText(controls[left]);
+    // A row of fields, or of results, is named by the one label before them.
+    if (!(IsField(self) && IsField(kind)) && !(self == ControlKind::Result && kind == self)) break;
   }
   const std::size_t above = Vertical(form, control, -1);
   if (above == none || !IsCaption(controls[above].Template.Kind)) return {};
-  const std::size_t named = Neighbour(form, above, false);
-  const bool namesAnother = named < none && (CanBeUsed(controls[named].Template.Kind) ||
-                                             controls[named].Template.Kind == ControlKind::Result);
+  const std::size_t next = Neighbour(form, above, false);
+  const bool namesAnother =
+      next < none && (CanBeUsed(controls[next].Template.Kind) || controls[next].Template.Kind == ControlKind::Result);
   return namesAnother ? std::string() : ShownText(controls[above]);
 }
 

@@ -58,8 +58,10 @@ struct PageMetrics {
   int ComboPadding = 0;   ///< on both sides together, with its arrow
   int ListPadding = 0;    ///< on both sides together, with its scroll bar
   int MarkWidth = 0;      ///< of a check or radio button's mark, with the gap before its text
-  int FrameAbove = 0;     ///< how far the frame of a list reaches into the line above; that much a text leaves free
-  int CornerWidth = 0;    ///< of the button that opens the form's menu in the page's upper right corner; 0: none
+  int MarkRise = 0;       ///< from the upper edge of a check or radio button to the baseline of its text
+  int MarkHeight = 1;
+  int FrameAbove = 0;   ///< how far the frame of a list reaches into the line above; that much a text leaves free
+  int CornerWidth = 0;  ///< of the button that opens the form's menu in the page's upper right corner; 0: none
   PageDensity Roomy;
   PageDensity Dense;
 };

@@ -33,9 +33,9 @@ struct ChosenPath {
 /// The one top-level window: a title, a menu and ruled paper.
 struct MainWindow {
   std::string Title;
-  std::vector<MenuItem> Menu;
-  std::function<void()> onStart;           ///< once, when the window stands
-  std::function<void(int id)> onCommand;   ///< a menu item was chosen
+  std::vector<MenuItem> Menu = {};
+  std::function<void()> onStart = {};          ///< once, when the window stands
+  std::function<void(int id)> onCommand = {};  ///< a menu item was chosen
 };
 
 /// The whole of what the program asks of a window system. The desktop, the terminal and the tests implement it.

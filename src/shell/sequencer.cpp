@@ -5,6 +5,22 @@
 #include "shell/main_title.h"
 #include "shell/pending_stages.h"
 #include "shell/save_by_extension.h"
+#include "steps/alignment.h"
+#include "steps/cherry_pick.h"
+#include "steps/equip.h"
+#include "steps/honor.h"
+#include "steps/naming.h"
+#include "steps/quirk_effects.h"
+#include "steps/siblings.h"
+#include "steps/skill_setup.h"
+#include "steps/skills.h"
+#include "steps/spell_books.h"
+#include "steps/spell_selection.h"
+#include "steps/step_eight.h"
+#include "steps/step_nine.h"
+#include "steps/step_six.h"
+#include "steps/step_ten.h"
+#include "steps/take_after.h"
 #include "store/recovery.h"
 #include "text/search.h"
 
@@ -85,7 +101,7 @@ void RunPriestYouth(Game& game) {
 }
 
 void ChooseSpells(Game& game) {
-  if (game.run.SpellListIndex == -1) return;
+  if (!HasSpells(game)) return;
   RunSpellSellection(game);
   FinishSpellList(game);
   if (game.sheet.UsesMageBackground == 1 && !HasClass(game, kPaintedMage)) MakeFirstSpellBook(game);
@@ -148,6 +164,7 @@ void FinishCharacter(Game& game) {
   UpdateMainTitle(game, game.sheet.CharacterName);
   if (!game.platform.Confirms("Save", Format("Save your character - %s?", game.sheet.CharacterName))) return;
   if (AskAndSaveCharacter(game)) UpdateMainTitle(game, game.sheet.CharacterName);
+  SaveSpellBooks(game);
 }
 
 }  // namespace

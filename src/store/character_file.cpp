@@ -266,7 +266,9 @@ bool KeepOlderVersion(const std::string& path, SaveWay way) {
   }
   const CharacterFormat* format = FormatOf(old);
   if (format == nullptr || format == &kCurrentFormat) return true;
-  return ReadWholeFile(path, old, SIZE_MAX) == FileRead::Done && KeepBackup(path, old, way);
+  constexpr std::size_t kNoCharacter = 64'000'000;  // many times what a character can take
+  return ReadWholeFile(path, old, kNoCharacter) == FileRead::Done && old.size() < kNoCharacter &&
+         KeepBackup(path, old, way);
 }
 
 }  // namespace

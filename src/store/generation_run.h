@@ -26,7 +26,7 @@ struct GenerationRun {
   // Quirks and flaws (Step 7).
   std::array<int, kQuirkCountRows> QuirkPicks{};
   std::array<int, kQuirkCountRows> QuirkBPCosts{};  ///< what a row pays now: its BPCost, or its RepeatBP once taken
-  std::array<int, kQuirkCountRows> QuirkBarred{};   ///< 1: wiped out by a row that is held; its MaxCount counts as 0
+  std::array<int, kQuirkCountRows> QuirkBarred{};   ///< 1: wiped out by a row held; its MaxCount counts as 0
   int QuirkRollsLeft = 0;
   int UsesThiefBackground = 0;
   int ArmAmputations = 0;
@@ -44,6 +44,12 @@ struct GenerationRun {
   int HonorBackgroundModifier = 0;
   int HonorLimitFlag = 0;        ///< 5 after an abusive master: Honor is capped at 5
   int ThiefPointsToSpend = 0;
+
+  // Training for a level: the rows of the last teacher and class size, and what the training gave.
+  int TeacherIndex = 0;
+  int ClassSizeIndex = 0;
+  int TrainingFreeMastery = 0;
+  int TrainingFreeSkills = 0;
 
   // Skills (Step 12). Pools in BP.
   float PackageBP = 0;

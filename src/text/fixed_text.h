@@ -47,7 +47,7 @@ struct FixedText {
   void Assign(std::string_view text) {
     const std::string_view kept = CutToBytes(text.substr(0, text.find('\0')), N - 1);
     char cut[N] = {};  // the text may be a part of this very field
-    std::memcpy(cut, kept.data(), kept.size());
+    std::copy(kept.begin(), kept.end(), cut);  // not memcpy: an empty text may have no bytes to point at
     std::memcpy(bytes, cut, N);
   }
 };

@@ -10,10 +10,20 @@ inline bool Contains(std::string_view text, std::string_view part) {
   return !part.empty() && text.find(part) != std::string_view::npos;
 }
 
+/// True if two letters are the same but for the case of A to Z.
+inline bool IsSameLetter(char a, char b) {
+  const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
+  return lower(a) == lower(b);
+}
+
 /// Compares two texts without regard to the case of the letters A to Z.
 inline bool EqualsIgnoringCase(std::string_view a, std::string_view b) {
-  const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&](char x, char y) { return lower(x) == lower(y); });
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(), IsSameLetter);
+}
+
+/// As Contains, without regard to the case of the letters A to Z.
+inline bool ContainsIgnoringCase(std::string_view text, std::string_view part) {
+  return !part.empty() && std::search(text.begin(), text.end(), part.begin(), part.end(), IsSameLetter) != text.end();
 }
 
 /// `text` without the blanks at its end.

@@ -1,0 +1,153 @@
+// How long the desktop front end takes from its start to the first painted main window, and how much memory it then
+// holds, beside an empty window of the toolkit in the same run. The two are started in turn, so that both meet the same
+// machine.
+//
+//   desktop_start [ROUNDS]        prints the medians, and fails if a limit is passed
+//   desktop_start empty|veld NS   is started by the above at NS nanoseconds of the steady clock
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QApplication>
+#include <QEvent>
+#include <QTimer>
+#include <QWidget>
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "desktop/desktop_platform.h"
+#include "desktop/fonts_ahead.h"
+
+namespace {
+
+constexpr double kMostTimes = 1.5;     // of the empty window's start
+constexpr double kMostMegabytes = 25;  // above the empty window's memory
+
+std::int64_t Nanoseconds() {
+  return std::chrono::duration_cast<std::chrono::nanoseconds>(std::chrono::steady_clock::now().time_since_epoch())
+      .count();
+}
+
+double ResidentMegabytes() {
+  std::ifstream statm("/proc/self/statm");
+  long pages = 0;
+  long resident = 0;
+  statm >> pages >> resident;
+  return static_cast<double>(resident) * static_cast<double>(sysconf(_SC_PAGESIZE)) / 1e6;
+}
+
+/// Reports when a window has been painted for the first time and its picture handed over, and leaves.
+class FirstPaint : public QObject {
+ public:
+  explicit FirstPaint(std::int64_t started) : started_(started) {}
+
+  bool eventFilter(QObject* target, QEvent* event) override {
+    if (event->type() == QEvent::Paint && target->isWidgetType() && !isPainted_) {
+      isPainted_ = true;
+      QTimer::singleShot(0, this, [this] {
+        std::printf("%.3f %.3f\n", static_cast<double>(Nanoseconds() - started_) / 1e6, ResidentMegabytes());
+        std::fflush(stdout);
+        std::_Exit(0);
+      });
+    }
+    return false;
+  }
+
+ private:
+  std::int64_t started_;
+  bool isPainted_ = false;
+};
+
+int ShowEmptyWindow(QApplication& application) {
+  QWidget window;
+  window.resize(800, 600);
+  window.show();
+  return application.exec();
+}
+
+int ShowMainWindow(veld::FontsAhead& fonts) {
+  veld::DesktopPlatform platform({.Fonts = &fonts});
+  veld::MainWindow window{.Title = "Start", .Menu = {}};
+  for (const char* menu : {"&File", "&Help", "&GM"}) {
+    window.Menu.push_back({.Text = menu, .Items = {{.Id = 1, .Text = "&One"}, {.Id = 2, .Text = "&Two"}}});
+  }
+  platform.RunMainWindow(window);
+  return 0;
+}
+
+int RunOne(bool isVeld, std::int64_t started) {
+  std::optional<veld::FontsAhead> fonts;
+  if (isVeld) fonts.emplace();
+  int argc = 1;
+  char name[] = "desktop_start";
+  char* argv[] = {name, nullptr};
+  QApplication application(argc, argv);
+  FirstPaint firstPaint(started);
+  application.installEventFilter(&firstPaint);
+  return isVeld ? ShowMainWindow(*fonts) : ShowEmptyWindow(application);
+}
+
+struct Sample {
+  double Milliseconds = 0;
+  double Megabytes = 0;
+};
+
+/// Starts this program anew to show one window, and reads what it reports.
+bool Measure(const char* program, const char* which, Sample& sample) {
+  int ends[2];
+  if (pipe(ends) != 0) return false;
+  const std::string now = std::to_string(Nanoseconds());
+  const pid_t child = fork();
+  if (child == 0) {
+    dup2(ends[1], STDOUT_FILENO);
+    execl(program, program, which, now.c_str(), nullptr);
+    std::_Exit(EXIT_FAILURE);
+  }
+  close(ends[1]);
+  FILE* report = fdopen(ends[0], "r");
+  const int read = std::fscanf(report, "%lf %lf", &sample.Milliseconds, &sample.Megabytes);
+  std::fclose(report);
+  int status = 0;
+  return waitpid(child, &status, 0) == child && status == 0 && read == 2;
+}
+
+double Median(std::vector<Sample>& samples, double Sample::*value) {
+  std::ranges::sort(samples, {}, value);
+  return samples[samples.size() / 2].*value;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  setenv("QT_QPA_PLATFORM", "offscreen", 0);
+  qputenv("QT_LOGGING_RULES", "*.debug=false;*.warning=false");
+  if (argc == 3) return RunOne(std::strcmp(argv[1], "veld") == 0, std::atoll(argv[2]));
+  const int rounds = std::max(argc == 2 ? std::atoi(argv[1]) : 21, 1);
+  std::vector<Sample> empty;
+  std::vector<Sample> veld;
+  for (int round = -2; round < rounds; ++round) {  // the first two warm the caches
+    Sample one;
+    Sample other;
+    if (!Measure(argv[0], "empty", one) || !Measure(argv[0], "veld", other)) {
+      std::fprintf(stderr, "A window did not come up.\n");
+      return EXIT_FAILURE;
+    }
+    if (round < 0) continue;
+    empty.push_back(one);
+    veld.push_back(other);
+  }
+  const double times = Median(veld, &Sample::Milliseconds) / Median(empty, &Sample::Milliseconds);
+  const double more = Median(veld, &Sample::Megabytes) - Median(empty, &Sample::Megabytes);
+  std::printf("start to first painted window: %.1f ms, empty window %.1f ms: %.2f times (at most %.1f)\n",
+              Median(veld, &Sample::Milliseconds), Median(empty, &Sample::Milliseconds), times, kMostTimes);
+  std::printf("resident memory: %.1f MB, empty window %.1f MB: %.1f MB more (at most %.0f)\n",
+              Median(veld, &Sample::Megabytes), Median(empty, &Sample::Megabytes), more, kMostMegabytes);
+  return times <= kMostTimes && more <= kMostMegabytes ? EXIT_SUCCESS : EXIT_FAILURE;
+}

@@ -1,0 +1,420 @@
+#include "desktop/form_window.h"
+
+#include <QAction>
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QContextMenuEvent>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <utility>
+
+#include "desktop/control_widgets.h"
+#include "platform/mnemonics.h"
+
+namespace veld {
+
+namespace {
+
+constexpr int kTitleBarHeight = 40;  // room for what a window manager draws around a window
+constexpr int kFrameWidth = 12;
+
+bool IsTyped(ControlKind kind) {
+  return kind == ControlKind::Edit || kind == ControlKind::Number || kind == ControlKind::MultiLine;
+}
+
+bool IsChosenFrom(ControlKind kind) {
+  return kind == ControlKind::List || kind == ControlKind::Combo;
+}
+
+}  // namespace
+
+void FillMenu(QWidget& menu, const std::vector<MenuItem>& items, const std::function<void(int id)>& onChosen) {
+  auto* popup = qobject_cast<QMenu*>(&menu);
+  for (const MenuItem& item : items) {
+    if (!item.Items.empty()) {
+      auto* sub = new QMenu(ToQtLine(item.Text), &menu);
+      sub->setEnabled(item.Enabled);
+      FillMenu(*sub, item.Items, onChosen);
+      menu.addAction(sub->menuAction());
+    } else if (item.Text.empty()) {
+      if (popup) popup->addSeparator();
+    } else {
+      auto* action = new QAction(ToQtLine(item.Text), &menu);
+      action->setEnabled(item.Enabled);
+      QObject::connect(action, &QAction::triggered, &menu, [onChosen, id = item.Id] { onChosen(id); });
+      menu.addAction(action);
+    }
+  }
+}
+
+FormWindow::FormWindow(Form& form, const PaperStyle& style, QWidget* parent)
+    : QDialog(parent), form_(form), style_(style), metrics_(style.Metrics) {
+  scroll_ = new QScrollArea(this);
+  scroll_->setFrameShape(QFrame::NoFrame);
+  scroll_->setFocusPolicy(Qt::NoFocus);
+  paper_ = new Paper(style, nullptr);
+  paper_->SetHasEdge(true);
+  scroll_->setWidget(paper_);
+  form_.SetObserver(this);
+}
+
+FormWindow::~FormWindow() {
+  form_.SetObserver(nullptr);
+}
+
+// --- Opening -----------------------------------------------------------------------------------------------------
+
+bool FormWindow::Open() {
+  form_.Open();
+  if (form_.IsClosed()) return false;
+  Build();
+  return true;
+}
+
+void FormWindow::Run() {
+  if (!Open()) return;
+  isModal_ = true;
+  exec();
+  isModal_ = false;
+  if (error_) std::rethrow_exception(std::exchange(error_, nullptr));
+}
+
+void FormWindow::ShowAt(QPoint place) {
+  if (!Open()) {
+    if (onOver) onOver();
+    return;
+  }
+  move(place);
+  show();
+}
+
+void FormWindow::ShowForProgress() {
+  if (!Open()) return;
+  setWindowModality(Qt::ApplicationModal);
+  show();
+}
+
+void FormWindow::Build() {
+  OnTitleChanged();
+  for (const Control& control : form_.Controls()) widgets_.push_back(MakeControlWidget(control, style_, paper_));
+  for (std::size_t i = 0; i < widgets_.size(); ++i) Connect(i);
+  MakeCorner();
+  NameControls();
+  MarkTexts();
+  isBuilt_ = true;
+  for (std::size_t i = 0; i < widgets_.size(); ++i) Refresh(i);
+  ResizeToForm();
+  LayOut();
+  FocusFirst();
+}
+
+/// What a player does to the control goes to the form.
+void FormWindow::Connect(std::size_t control) {
+  QWidget* widget = widgets_[control];
+  const int id = IdOf(control);
+  if (id != 0) widget->setObjectName(QString::number(id));
+  switch (form_.Controls()[control].Template.Kind) {
+    case ControlKind::Button:
+      QObject::connect(static_cast<QPushButton*>(widget), &QPushButton::clicked, this,
+                       [this, id] { Act([&] { form_.Press(id); }); });
+      break;
+    case ControlKind::Radio:
+      JoinGroup(control);
+      [[fallthrough]];
+    case ControlKind::Check:
+      QObject::connect(static_cast<QAbstractButton*>(widget), &QAbstractButton::clicked, this,
+                       [this, id](bool checked) { Act([&] { form_.Mark(id, checked); }); });
+      break;
+    case ControlKind::Edit:
+    case ControlKind::Number:
+      QObject::connect(static_cast<QLineEdit*>(widget), &QLineEdit::textEdited, this,
+                       [this, control, id](const QString& text) {
+                         Act([&] { form_.Type(id, ToQtLine(text.toStdString()).toStdString()); });
+                         Refresh(control);
+                       });
+      break;
+    case ControlKind::MultiLine: {
+      auto* edit = static_cast<RuledEdit*>(widget);
+      edit->onTyped = [this, control, id, edit] {
+        Act([&] { form_.Type(id, edit->toPlainText().toStdString()); });
+        Refresh(control);
+      };
+      break;
+    }
+    case ControlKind::List:
+      static_cast<RuledList*>(widget)->onChosen = [this, control](int row) { Choose(control, row); };
+      break;
+    case ControlKind::Combo:
+      QObject::connect(static_cast<QComboBox*>(widget), &QComboBox::activated, this, [this, control, id](int row) {
+        Act([&] { form_.Choose(id, row); });
+        Refresh(control);
+      });
+      break;
+    default:
+      break;
+  }
+}
+
+void FormWindow::JoinGroup(std::size_t control) {
+  QButtonGroup*& group = groups_[form_.Controls()[control].Template.Group];
+  if (!group) group = new QButtonGroup(this);
+  group->addButton(static_cast<QAbstractButton*>(widgets_[control]));
+}
+
+/// Ties each label to the control that it names, for its letter and for screen readers.
+void FormWindow::NameControls() {
+  for (std::size_t i = 0; i < widgets_.size(); ++i) {
+    const ControlKind kind = form_.Controls()[i].Template.Kind;
+    if (kind == ControlKind::Label) {
+      const std::size_t named = NamedControl(form_, i);
+      if (named < widgets_.size()) static_cast<QLabel*>(widgets_[i])->setBuddy(widgets_[named]);
+      continue;
+    }
+    const QString name = ToQtLine(ControlName(form_, i));
+    if (name.isEmpty()) continue;
+    // A result, a button and a check or radio button are read by their own text.
+    if (kind == ControlKind::Result) widgets_[i]->setAccessibleDescription(name);
+    if (IsTyped(kind) || IsChosenFrom(kind) || kind == ControlKind::Text || kind == ControlKind::Progress) {
+      widgets_[i]->setAccessibleName(name);
+    }
+  }
+}
+
+/// The button of the form's menu, which a right click also opens; and the keys that open it.
+void FormWindow::MakeCorner() {
+  if (form_.contextMenu.empty()) return;
+  corner_ = new QPushButton("&Menu", paper_);
+  corner_->setAutoDefault(false);
+  corner_->setObjectName("menu");
+  QObject::connect(corner_, &QPushButton::clicked, this, [this] { OpenMenuByKeyboard(); });
+  metrics_.CornerWidth = style_.Metrics.TextWidth("Menu", TextFace::Plain) + 2 * metrics_.ButtonPadding;
+  for (const QKeySequence& key : {QKeySequence(Qt::Key_Menu), QKeySequence(Qt::SHIFT | Qt::Key_F10)}) {
+    QObject::connect(new QShortcut(key, this), &QShortcut::activated, this, [this] { OpenMenuByKeyboard(); });
+  }
+  for (std::size_t i = 0; i < widgets_.size(); ++i) {  // the form's menu, in place of the one that edits have
+    if (IsTyped(form_.Controls()[i].Template.Kind) || form_.Controls()[i].Template.Kind == ControlKind::Text) {
+      widgets_[i]->setContextMenuPolicy(Qt::NoContextMenu);
+    }
+  }
+}
+
+/// The first field to type in has the focus, its text chosen, so that a player just types; else a list; else the
+/// default button.
+void FormWindow::FocusFirst() {
+  const auto& controls = form_.Controls();
+  const auto take = [&](auto fits) {
+    for (std::size_t i = 0; i < controls.size(); ++i) {
+      if (!controls[i].Visible || !controls[i].Enabled || !fits(controls[i].Template)) continue;
+      TakeFocus(i);
+      return true;
+    }
+    return false;
+  };
+  if (wantedFocus_) return TakeFocus(*wantedFocus_);
+  if (take([](const ControlTemplate& c) { return IsTyped(c.Kind); })) return;
+  if (take([](const ControlTemplate& c) { return IsChosenFrom(c.Kind); })) return;
+  if (take([](const ControlTemplate& c) { return c.Role == ButtonRole::Default || c.Role == ButtonRole::Both; }))
+    return;
+  take([](const ControlTemplate& c) {
+    return c.Kind == ControlKind::Button || c.Kind == ControlKind::Check || c.Kind == ControlKind::Radio;
+  });
+}
+
+void FormWindow::TakeFocus(std::size_t control) {
+  QWidget* widget = widgets_[control];
+  widget->setFocus(Qt::OtherFocusReason);
+  if (auto* edit = qobject_cast<QLineEdit*>(widget)) edit->selectAll();
+  scroll_->ensureWidgetVisible(widget);
+}
+
+// --- The page ----------------------------------------------------------------------------------------------------
+
+/// The largest page that the screen has room for.
+PageSize FormWindow::Limit() const {
+  const QSize room = screen()->availableSize();
+  return {room.width() - kFrameWidth, room.height() - kTitleBarHeight};
+}
+
+void FormWindow::ResizeToForm() {
+  const PageSize limit = Limit();
+  const PageSize natural = NaturalPageSize(form_, metrics_, limit);
+  const int bar = natural.Height > limit.Height ? style()->pixelMetric(QStyle::PM_ScrollBarExtent) : 0;
+  resize(std::min(natural.Width + bar, limit.Width), std::min(natural.Height, limit.Height));
+  setMinimumSize(std::min(width(), 160), std::min(height(), 80));
+}
+
+/// After texts or what is visible have changed: the window grows where the page needs more room; it never shrinks.
+void FormWindow::FitToForm() {
+  needsFit_ = false;
+  const PageSize limit = Limit();
+  const PageSize natural = NaturalPageSize(form_, metrics_, limit);
+  const int wider = std::max(width(), std::min(natural.Width, limit.Width));
+  const int higher = std::max(height(), std::min(natural.Height, limit.Height));
+  if (wider != width() || higher != height()) resize(wider, higher);
+  LayOut();
+}
+
+void FormWindow::FitSoon() {
+  if (std::exchange(needsFit_, true)) return;
+  QTimer::singleShot(0, this, [this] {
+    if (needsFit_) FitToForm();
+  });
+}
+
+void FormWindow::LayOut() {
+  scroll_->setGeometry(rect());
+  PageLayout page = LayOutPage(form_, metrics_, {width(), height()});
+  if (page.Page.Height > height()) {  // the scroll bar stands beside the page
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    page = LayOutPage(form_, metrics_, {width() - bar, height()});
+  }
+  paper_->resize(page.Page.Width, page.Page.Height);
+  for (const PlacedControl& placed : page.Controls) {
+    PlaceControl(*widgets_[placed.Control], form_.Controls()[placed.Control], placed);
+  }
+  if (corner_) corner_->setGeometry(page.Corner.X, page.Corner.Y, page.Corner.Width, page.Corner.Height);
+}
+
+void FormWindow::MarkTexts() {
+  marked_.clear();
+  for (const std::string& text : MarkMnemonics(form_, corner_ ? "m" : "")) marked_.push_back(ToQtLine(text));
+}
+
+void FormWindow::Refresh(std::size_t control) {
+  const Control& state = form_.Controls()[control];
+  QButtonGroup* group = state.Template.Kind == ControlKind::Radio ? groups_[state.Template.Group] : nullptr;
+  if (group) group->setExclusive(false);  // the form sees to that; a group would keep the last mark
+  ShowControl(*widgets_[control], state, marked_[control]);
+  if (group) group->setExclusive(true);
+}
+
+void FormWindow::resizeEvent(QResizeEvent* event) {
+  QDialog::resizeEvent(event);
+  if (isBuilt_) LayOut();
+}
+
+// --- What the form changes ---------------------------------------------------------------------------------------
+
+void FormWindow::OnControlChanged(std::size_t control) {
+  if (!isBuilt_) return;
+  const Control& state = form_.Controls()[control];
+  const ControlKind kind = state.Template.Kind;
+  const bool isSized = kind == ControlKind::Text || kind == ControlKind::Result ||
+                       (state.Template.Width == 0 && !IsTyped(kind)) || HasMnemonic(kind);
+  if (isSized || widgets_[control]->isHidden() == state.Visible) FitSoon();
+  if (HasMnemonic(kind))
+    MarkTexts();
+  else
+    marked_[control] = ToQtLine(state.Text);
+  Refresh(control);
+}
+
+void FormWindow::OnTitleChanged() {
+  setWindowTitle(ToQtTitle(form_.Title()));
+}
+
+void FormWindow::OnFocusWanted(std::size_t control) {
+  if (isBuilt_) {
+    TakeFocus(control);
+  } else {
+    wantedFocus_ = control;
+  }
+}
+
+void FormWindow::OnClosed() {
+  if (!isBuilt_) return;
+  if (isModal_) {
+    done(0);
+  } else {
+    hide();
+  }
+  if (depth_ == 0 && onOver) onOver();
+}
+
+// --- What a player does ------------------------------------------------------------------------------------------
+
+/// Runs a handler of the form. What it throws must not pass through the toolkit: the form closes, and whoever runs it
+/// gets the exception.
+void FormWindow::Act(const std::function<void()>& act) {
+  ++depth_;
+  try {
+    ChooseNow();
+    if (!form_.IsClosed()) act();
+  } catch (...) {
+    error_ = std::current_exception();
+  }
+  --depth_;
+  AfterAct();
+}
+
+void FormWindow::AfterAct() {
+  if (error_ && !isModal_ && onError) onError(std::exchange(error_, nullptr));
+  if (error_) form_.Close();
+  if (needsFit_ && !form_.IsClosed()) FitToForm();
+  if (IsOver() && onOver) onOver();
+}
+
+/// A row chosen in a list is told to the form when the list is done with its own work, or before anything else that the
+/// player does.
+void FormWindow::Choose(std::size_t control, int row) {
+  choice_ = {control, row};
+  QTimer::singleShot(0, this, [this] {
+    if (choice_) Act([] {});
+  });
+}
+
+void FormWindow::ChooseNow() {
+  if (!choice_) return;
+  const auto [control, row] = *std::exchange(choice_, std::nullopt);
+  if (form_.IsClosed()) return;
+  form_.Choose(IdOf(control), row);
+  if (!form_.IsClosed()) Refresh(control);
+}
+
+void FormWindow::reject() {
+  if (!form_.IsClosed()) Act([this] { form_.PressCloseBox(); });
+}
+
+/// Enter presses the button that has the focus, else the default one. A key held down does not press on and on, through
+/// one form after another.
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return QDialog::keyPressEvent(event);
+  if (event->isAutoRepeat()) return;
+  if (auto* button = qobject_cast<QPushButton*>(focusWidget()); button && button->isEnabled()) return button->click();
+  Act([this] { form_.PressDefault(); });
+}
+
+void FormWindow::contextMenuEvent(QContextMenuEvent* event) {
+  if (form_.contextMenu.empty()) return QDialog::contextMenuEvent(event);
+  if (event->reason() == QContextMenuEvent::Keyboard) {
+    OpenMenuByKeyboard();
+  } else {
+    OpenMenu(event->globalPos());
+  }
+}
+
+void FormWindow::OpenMenuByKeyboard() {
+  OpenMenu(corner_ ? corner_->mapToGlobal(corner_->rect().bottomLeft()) : mapToGlobal(rect().center()));
+}
+
+void FormWindow::OpenMenu(QPoint place) {
+  int chosen = 0;
+  QMenu menu(this);
+  FillMenu(menu, form_.contextMenu, [&](int id) { chosen = id; });
+  menu.exec(place);
+  if (chosen != 0) Act([&] { form_.ChooseMenuItem(chosen); });
+}
+
+}  // namespace veld

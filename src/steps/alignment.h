@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "store/game.h"
+
+namespace veld {
+
+/// The alignments that all classes of the character allow, as the sheet prints them, with two blanks at the end. Druids
+/// may always be neutral.
+std::vector<std::string_view> OpenAlignmentNames(const Game& game);
+
+/// What an alignment makes of a rioter who is not good, and of a breaker of riots who is: a quirk, each time it is
+/// told.
+void ApplyAlignmentQuirks(Game& game);
+
+/// Step 14, "Choose an Alignment". OK leaves CurrentStep at 15, Abort as it is.
+void RunStepFourteen(Game& game);
+
+}  // namespace veld

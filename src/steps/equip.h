@@ -1,0 +1,13 @@
+#pragma once
+
+#include "store/game.h"
+
+namespace veld {
+
+/// Step 19: goods are bought and sold. Whatever was traded stands, whichever way the dialog closes.
+void RunEquip(Game& game);
+
+/// The same page for a finished character, on which goods can also be added and taken away without charge.
+void RunEditEquip(Game& game);
+
+}  // namespace veld

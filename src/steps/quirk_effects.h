@@ -1,0 +1,22 @@
+#pragma once
+
+#include "store/game.h"
+
+namespace veld {
+
+/// Pays the BP that the quirks and flaws earned, in one sum. Rows 600 and above earn nothing.
+void PayQuirks(Game& game);
+
+/// What the quirks and flaws held do to the character, once in a generation: classes barred, abilities lowered, gains
+/// for lost limbs. Scores may leave their range here; they are normalized when the abilities have been raised.
+void ApplyQuirkEffects(Game& game);
+
+/// Bars the classes that the quirks held close to the character. Whoever sets the class limits anew calls it again.
+void BarClassesForQuirks(Game& game);
+
+/// What a character makes up for by the arms and legs lost in youth: 25 percentile points of Intelligence for one arm,
+/// a whole point for both, and Strength for the legs likewise. Called once after ArmAmputations or LegAmputations was
+/// set.
+void ApplyAmputationGains(Game& game);
+
+}  // namespace veld

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "store/game.h"
+
+namespace veld {
+
+// Quirk rows that change a spell book.
+inline constexpr std::size_t kLargeHandwriting = 308;      ///< doubles the pages of a spell
+inline constexpr std::size_t kOldSchoolMentor = 324;  ///< moves Table 7G one row down
+
+/// A mage's first spell book: rolls Tables 7G, 7G1 and 7G2 (or 7H for what is no book), each with the offer to re-roll
+/// for 1 BP, and writes the known spells that are in no book into it, at most 100. With no such spell no book is made.
+void MakeFirstSpellBook(Game& game);
+
+/// Every text empty and every number 0. The books behind stay where they are.
+void ClearSpellBook(Game& game, std::size_t book);
+
+/// Asks for each book whether to save it, and writes those it is told to.
+void SaveSpellBooks(Game& game);
+
+/// The text of a book file: what the book is, then a line for each spell with its pages, or the pieces that it takes of
+/// a non-standard book.
+std::string SpellBookText(const Game& game, std::size_t book);
+
+/// "<character> spellbook <n>.txt", with "_" for what a file name can't hold.
+std::string SpellBookFileName(const Game& game, std::size_t book);
+
+}  // namespace veld

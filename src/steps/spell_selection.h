@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "rules/spell_catalogue.h"
+#include "store/game.h"
+
+namespace veld {
+
+/// True for a character with cantrips to choose or spells to be dealt. (A Blood Mage has spells but no cantrips.)
+bool HasSpells(const Game& game);
+
+/// A mage's spells at stage 10: deals the starting spells, then lets the player choose cantrips (SpellSellection). A
+/// mage without cantrips gets no dialog.
+void RunSpellSellection(Game& game);
+
+/// What follows the choice: "Read Magic" and "Write", then the free spells that a school youth earned, each chosen in a
+/// dialog of its own, then the end of all bars.
+void FinishSpellList(Game& game);
+
+/// The FreeSpellSellection dialog: one spell for free. Closed without a pick it gives nothing.
+void RunFreeSpellSellection(Game& game, FreeSpellKind kind);
+
+/// The cantrips that the mage may choose in all, 0 or more. A Chintzy Mentor's quarter is applied once, here at the
+/// latest.
+int CantripsToChoose(const Game& game);
+
+/// Rows of a spell list (one of SpellCategories): those that can be learned, or those that are known.
+std::vector<std::size_t> SpellsToLearn(const Game& game, std::string_view category);
+std::vector<std::size_t> SpellsHeld(const Game& game, std::string_view category);
+
+}  // namespace veld

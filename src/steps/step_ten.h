@@ -1,0 +1,12 @@
+#pragma once
+
+#include "store/game.h"
+
+namespace veld {
+
+/// Step 10, "Finish Background": the age after training, and the starting money with debt and inheritance. The first
+/// roll of each is free, every other costs 1 BP. OK leaves CurrentStep at 11, Abort at 0, an Abort of the BP for the
+/// money roll at 1.
+void RunStepTen(Game& game);
+
+}  // namespace veld
