@@ -22,7 +22,7 @@ bool IsKept(Game& game, const std::string& question) {
 
 bool CanHold(const Game& game, int row) {
   const int held = game.sheet.QuirkCounts[static_cast<std::size_t>(row)];
-  return held != -1 && held < QuirkTable()[static_cast<std::size_t>(row)].MaxCount;
+  return held != -1 && held < QuirkLimit(game, row);
 }
 
 /// True if some result of the dice yields a row that the character can hold.
@@ -40,6 +40,11 @@ TableResult TellNoRow(Game& game, std::string_view table) {
 
 }  // namespace
 
+int QuirkLimit(const Game& game, int row) {
+  const auto at = static_cast<std::size_t>(row);
+  return game.run.QuirkBarred[at] != 0 ? 0 : QuirkTable()[at].MaxCount;
+}
+
 int AskKeepRoll(Game& game, Form& window, int sides, int count) {
   while (true) {
     const int result = RollDice(game, sides, count);
@@ -54,7 +59,7 @@ TableResult AskKeepTableResult(Game& game, std::string_view table) {
   const int roll = RollDice(game, die.Sides, die.Count);
   const int row = QuirkRowOfRoll(table, roll);
   if (!CanHold(game, row)) return {Outcome::RollAgain, 0};
-  const std::string_view name = QuirkTable()[static_cast<std::size_t>(row)].Name;
+  const std::string_view name = ShownQuirkName(row);
   const int bp = game.run.QuirkBPCosts[static_cast<std::size_t>(row)];
   if (!(game.run.BuildingPoints > 0)) return {Outcome::Row, row};
   const std::string question = bp > 0 ? Format("Keep your result of (%i) %s (%i BP)?", roll, name, bp)

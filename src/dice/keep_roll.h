@@ -13,6 +13,9 @@ inline constexpr int kBuildingPointsControl = 50;
 /// the window's control 50.
 int AskKeepRoll(Game& game, Form& window, int sides, int count);
 
+/// How many of a quirk row the character can hold now: its MaxCount, or 0 once a row held has barred it.
+int QuirkLimit(const Game& game, int row);
+
 /// What a roll on a quirk table came to.
 struct TableResult {
   enum class Outcome {

@@ -120,6 +120,13 @@ int FindQuirkRow(std::string_view name) {
   return row == rows.end() ? 0 : static_cast<int>(row - rows.begin());
 }
 
+std::string_view ShownQuirkName(int row) {
+  if (row < 0 || row >= kQuirkRows) return {};
+  const std::string_view name = QuirkTable()[static_cast<std::size_t>(row)].Name;
+  const auto isControl = [](char c) { return static_cast<unsigned char>(c) < ' '; };
+  return name.substr(0, static_cast<std::size_t>(std::ranges::find_if(name, isControl) - name.begin()));
+}
+
 std::span<const int> QuirkTableRows(std::string_view table) {
   const RollTable* found = FindTable(table);
   return found ? std::span<const int>(found->Rows) : std::span<const int>{};

@@ -46,6 +46,10 @@ const std::array<QuirkRecord, kQuirkRows>& QuirkTable();
 /// The first row of exactly this name, blanks at its end included; 0 if there is none.
 int FindQuirkRow(std::string_view name);
 
+/// A row's name as it is shown and printed: what stands before its first control character. (The name of row 149 was cut
+/// at its width, and a number's byte ran into it.) Empty for a row outside the table.
+std::string_view ShownQuirkName(int row);
+
 /// The rows of a roll table in the order of the catalogue; none for an unknown or an empty name.
 std::span<const int> QuirkTableRows(std::string_view table);
 

@@ -13,14 +13,18 @@ namespace veld {
 
 namespace {
 
-constexpr int kGrantBP = 100;         // what a character has while a grant is bought, so that it is never too dear
-constexpr float kStyleDiscount = 5;   // BP off a samurai's one martial arts style
+constexpr int kGrantBP = 100;        // what a character has while a grant is bought, so that it is never too dear
+constexpr float kStyleDiscount = 5;  // BP off a samurai's one martial arts style
 constexpr int kFullMastery = 100;
 constexpr int kKnown = 50;
 
-std::string NameOf(const SkillTarget& target) { return std::string(TrimRight(RecordOf(target).Name)); }
+std::string NameOf(const SkillTarget& target) {
+  return std::string(TrimRight(RecordOf(target).Name));
+}
 
-bool IsPlain(const SkillTarget& target) { return target.Kind == SkillKind::Plain; }
+bool IsPlain(const SkillTarget& target) {
+  return target.Kind == SkillKind::Plain;
+}
 
 // --- Paying ------------------------------------------------------------------------------------------------------
 
@@ -122,8 +126,8 @@ std::string LackOfBP(const SkillTarget& target, float price, float cost, float b
 std::string LackOfLanguageSlot(const Game& game, const SkillTarget& target, bool isFreePick) {
   const CharacterSheet& sheet = game.sheet;
   if (RecordOf(target).Category != SkillCategory::Language || Mastery(sheet, target) != 0) return {};
-  const bool isOut = isFreePick ? sheet.LanguagesKnown >= sheet.LanguageSlots
-                                : sheet.LanguagesKnown > sheet.LanguageSlots;
+  const bool isOut =
+      isFreePick ? sheet.LanguagesKnown >= sheet.LanguageSlots : sheet.LanguagesKnown > sheet.LanguageSlots;
   if (!isOut) return {};
   return Format("You have no available language slots left for this character. You have used %i out of %i slots",
                 sheet.LanguagesKnown, sheet.LanguageSlots);
@@ -168,9 +172,9 @@ CourseRoll RollCourse(Game& game, const SkillTarget& target) {
   };
   for (int rolls = 0; rolls <= more.Rolls; ++rolls) rollOnce();
   if (!more.AsksAmazon) return roll;
-  const std::string question = Format(
-      "%s is a skill that an amazon may purchase and get double rolls on. you only get one, will this be it",
-      NameOf(target));
+  const std::string question =
+      Format("%s is a skill that an amazon may purchase and get double rolls on. you only get one, will this be it",
+             NameOf(target));
   if (!game.platform.Confirms("Amazon Package Bonus", question)) return roll;
   game.run.AmazonDoubleRoll = 0;
   rollOnce();
@@ -190,7 +194,8 @@ int RollHonorGain(Game& game, int extra) {
 void AddGain(Game& game, const SkillTarget& target, int gain) {
   int& mastery = MasteryOf(game.sheet, target);
   mastery = AddSaturated(mastery, gain);
-  if (IsPlain(target) && RecordOf(target).Category == SkillCategory::Suite) SpreadSuiteGain(game.sheet, target.Row, gain);
+  if (IsPlain(target) && RecordOf(target).Category == SkillCategory::Suite)
+    SpreadSuiteGain(game.sheet, target.Row, gain);
 }
 
 void RaiseMastery(Game& game, const SkillTarget& target) {
@@ -210,8 +215,7 @@ void RaiseMastery(Game& game, const SkillTarget& target) {
 
 /// Asks for a new member's name and gives it a slot. Returns false if the player names none.
 bool TakeNewSlot(Game& game, SkillTarget& target) {
-  const std::string answer =
-      AskName(game, Format("Choose the name of the Item for your %s Skill.", NameOf(target)));
+  const std::string answer = AskName(game, Format("Choose the name of the Item for your %s Skill.", NameOf(target)));
   const std::string_view item = TrimRight(answer);
   if (item.empty()) return false;
   target.Slot = FreeMemberSlot(game.sheet, target.Row);
@@ -283,8 +287,8 @@ void GrantSkillAtNoCost(Game& game, std::string_view name) {
 void GrantMember(Game& game, int family, std::string_view item) {
   game.run.LastSkillDetail = -1;
   if (family < 0 || family >= kSkillTable2Rows || item.empty()) return;
-  const std::string name = std::string(TrimRight(SkillTable2()[static_cast<std::size_t>(family)].Name)) + ": " +
-                           std::string(item);
+  const std::string name =
+      std::string(TrimRight(SkillTable2()[static_cast<std::size_t>(family)].Name)) + ": " + std::string(item);
   if (FindMemberNamed(game.sheet, family, name) >= 0) return GrantSkillAtNoCost(game, name);
   const int slot = FreeMemberSlot(game.sheet, family);
   if (slot < 0) return;

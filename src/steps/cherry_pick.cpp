@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "dice/keep_roll.h"
 #include "steps/quirks_and_flaws.h"
 #include "text/search.h"
 

@@ -3,10 +3,10 @@
 #include <array>
 #include <utility>
 
-#include "rules/class_table.h"
 #include "rules/proficiency_table.h"
 #include "rules/skill_table.h"
 #include "steps/buy_skill.h"
+#include "steps/proficiency_purchase.h"
 #include "text/numbers.h"
 #include "text/search.h"
 
@@ -14,7 +14,9 @@ namespace veld {
 
 namespace {
 
-std::size_t Index(int number) { return static_cast<std::size_t>(number); }
+std::size_t Index(int number) {
+  return static_cast<std::size_t>(number);
+}
 
 constexpr int kAccept = 1;
 constexpr int kChoices = 3021;
@@ -29,9 +31,8 @@ constexpr FormTemplate kFreeWeapon{"FreeWeapon", "Pick your free item", kPickCon
 // --- Instruments -------------------------------------------------------------------------------------------------
 
 constexpr int kFirstInstrument = 4001;
-constexpr std::array<std::string_view, 5> kInstruments = {"Brass Instrument", "Exotic Instrument",
-                                                          "Percussion Instrument", "Stringed Instrument",
-                                                          "Wind Instrument"};
+constexpr std::array<std::string_view, 5> kInstruments = {
+    "Brass Instrument", "Exotic Instrument", "Percussion Instrument", "Stringed Instrument", "Wind Instrument"};
 
 constexpr ControlTemplate kBardInstrumentControls[] = {
     TitleAt(0, 0, "Choose your kind of instrument"),
@@ -45,24 +46,24 @@ constexpr FormTemplate kBardInstrument{"BardInstrument", "Instrument", kBardInst
 
 // --- Proficiencies -----------------------------------------------------------------------------------------------
 
-constexpr int kProficient = 1;
-constexpr int kSpecialized = 2;
-constexpr int kShoddy = -10;
-constexpr int kUntaught = -20;  // the mark of a class of weapons never taught: counts as none
-
-struct ProficiencyFilter {
-  int Kind;                   ///< -1: any
-  std::string_view NamePart;  ///< empty: any
-  std::array<std::string_view, 2> Names;  ///< these rows besides; with nothing else filled in, these alone
-  int Mark;
-};
-
 constexpr int kAnyKind = -1;
 constexpr int kNamesOnly = -2;
+
+struct ProficiencyFilter {
+  int Kind;                               ///< a ProficiencyKind, any, or none but the rows named
+  std::string_view NamePart;              ///< empty: any
+  std::array<std::string_view, 2> Names;  ///< these rows besides
+  int Mark;                               ///< what becomes of the proficiency
+};
+
 constexpr std::array<std::string_view, 2> kBows = {"Bow: Long", "Bow: Short"};
 
+constexpr int kProficient = ProficiencyMark::Proficient;
+constexpr int kShoddy = ProficiencyMark::Limited;
+constexpr int kSpecialized = ProficiencyMark::Specialized;
+
 // clang-format off
-constexpr ProficiencyFilter kFilters[] = {
+constexpr ProficiencyFilter kFilters[] = {  // by WeaponPick
   // Kind                     Name holds    Names  Mark
   {ProficiencyKind::Melee,    {},           {},    kProficient},   // Melee
   {ProficiencyKind::Melee,    {},           {},    kShoddy},       // MeleeShoddy
@@ -77,6 +78,7 @@ constexpr ProficiencyFilter kFilters[] = {
   {kAnyKind,                  {},           {},    kProficient},   // Any
   {ProficiencyKind::Missile,  "Crossbow:",  kBows, kSpecialized},  // Missile
 };
+static_assert(std::size(kFilters) == static_cast<std::size_t>(WeaponPick::Missile) + 1);
 // clang-format on
 
 bool Passes(const ProficiencyFilter& filter, const ProficiencyRecord& record) {
@@ -87,20 +89,14 @@ bool Passes(const ProficiencyFilter& filter, const ProficiencyRecord& record) {
   return filter.NamePart.empty() || Contains(record.Name, filter.NamePart);
 }
 
-bool SomeClassMayLearn(const CharacterSheet& sheet, std::size_t proficiency) {
-  for (std::size_t row = 0; row < sheet.ClassLevels.size(); ++row) {
-    if (sheet.ClassLevels[row] > 0 && ClassTable()[row].WeaponAllowed[proficiency] != 0) return true;
-  }
-  return false;
-}
-
-std::vector<int> OpenProficiencies(const CharacterSheet& sheet, const ProficiencyFilter& filter) {
+std::vector<int> OpenProficiencies(const Game& game, const ProficiencyFilter& filter) {
   std::vector<int> rows;
   const auto& table = ProficiencyTable();
   for (std::size_t row = 0; row < table.size() && !table[row].Name.empty(); ++row) {
-    const int mark = sheet.ProficiencyLevels[row];
-    if (mark != 0 && mark != kUntaught) continue;
-    if (Passes(filter, table[row]) && SomeClassMayLearn(sheet, row)) rows.push_back(static_cast<int>(row));
+    const int mark = game.sheet.ProficiencyLevels[row];
+    if (mark != ProficiencyMark::None && mark != ProficiencyMark::Untaught) continue;
+    const ProficiencyPlace place{.Row = static_cast<int>(row)};
+    if (Passes(filter, table[row]) && ClassMayLearn(game, place)) rows.push_back(place.Row);
   }
   return rows;
 }
@@ -169,7 +165,8 @@ void PickDetail(Game& game, int family) {
   if (family < 0 || family >= kSkillTable2Rows || SkillTable2()[Index(family)].Name.empty()) return;
   std::vector<std::string> names;
   for (std::size_t slot = 0; slot < kDetailRows; ++slot) {
-    if (HoldsMember(game.sheet, family, slot)) names.emplace_back(game.sheet.SkillDetailNames[Index(family)][slot].View());
+    if (HoldsMember(game.sheet, family, slot))
+      names.emplace_back(game.sheet.SkillDetailNames[Index(family)][slot].View());
   }
   names.emplace_back(TrimRight(SkillTable2()[Index(family)].Name));
   const int picked = PickOne(game, PickPage::FreeWeapon, names);
@@ -212,7 +209,7 @@ void PickBardInstrument(Game& game) {
 int PickProficiency(Game& game, WeaponPick pick) {
   if (AreSlotsOut(game)) return -1;
   const ProficiencyFilter& filter = kFilters[static_cast<std::size_t>(pick)];
-  const std::vector<int> rows = OpenProficiencies(game.sheet, filter);
+  const std::vector<int> rows = OpenProficiencies(game, filter);
   std::vector<std::string> names;
   for (const int row : rows) names.emplace_back(TrimRight(ProficiencyTable()[Index(row)].Name));
   const int picked = PickOne(game, PickPage::FreeRemote, std::move(names));

@@ -9,8 +9,8 @@
 
 namespace veld {
 
-// Dialogs in which the player picks one thing that is granted. A list that would be empty opens no dialog. The close box
-// drops the grant.
+// Dialogs in which the player picks one thing that is granted. A list that would be empty opens no dialog. The close
+// box drops the grant.
 
 /// The pages that a pick is made on.
 enum class PickPage {

@@ -13,7 +13,7 @@ namespace {
 constexpr int kTradeGain = 70;
 
 struct PirateTrade {
-  int High;                 ///< highest roll of 1d100
+  int High;  ///< highest roll of 1d100
   std::string_view Skill;
   std::string_view Raised;  ///< what gains 70, '|' between the names
 };

@@ -346,18 +346,8 @@ void ReconcileQuirks(Game& game) {
   }
 }
 
-int QuirkLimit(const Game& game, int row) {
-  return game.run.QuirkBarred[static_cast<std::size_t>(row)] != 0 ? 0 : QuirkAt(row).MaxCount;
-}
-
 int RollQuirkRow(Game& game, std::string_view table) {
-  // While the dice fall, a barred row counts as one that can't be had at all.
-  const auto held = game.sheet.QuirkCounts;
-  for (std::size_t row = 0; row < held.size(); ++row) {
-    if (game.run.QuirkBarred[row] != 0) game.sheet.QuirkCounts[row] = -1;
-  }
   const TableResult result = RollTableUntilRow(game, table);
-  game.sheet.QuirkCounts = held;
   return result.IsRow() ? result.Row : 0;
 }
 
@@ -383,12 +373,6 @@ void BindToBook(Game& game, int book) {
 int PotentialQuirkBP(const Game& game) {
   const auto first = game.sheet.QuirkBP.begin();
   return SaturateToInt(std::accumulate(first, first + kLastQuirk + 1, std::int64_t{0}));
-}
-
-std::string_view ShownQuirkName(int row) {
-  const std::string_view name = QuirkAt(row).Name;
-  const auto isControl = [](char c) { return static_cast<unsigned char>(c) < ' '; };
-  return name.substr(0, static_cast<std::size_t>(std::ranges::find_if(name, isControl) - name.begin()));
 }
 
 std::vector<std::string> HeldQuirkNames(const Game& game) {

@@ -55,10 +55,7 @@ void TakeQuirkResult(Game& game, QuirkWork& work, int row);
 /// taken again in this run.
 void ReconcileQuirks(Game& game);
 
-/// How many of a row the character may hold: the catalogue's MaxCount, or 0 if the row is barred.
-int QuirkLimit(const Game& game, int row);
-
-/// RollTableUntilRow without the rows that are barred.
+/// RollTableUntilRow as a row number: 0 if the table can give none.
 int RollQuirkRow(Game& game, std::string_view table);
 
 /// Binds the character to the classes of a supplement: its Uses...Background becomes 1. Other books bind nothing.
@@ -66,10 +63,6 @@ void BindToBook(Game& game, int book);
 
 /// BP that the quirks and flaws have earned so far.
 int PotentialQuirkBP(const Game& game);
-
-/// A row's name as it is shown and printed: it ends before its first control character, which one name of the catalogue
-/// has.
-std::string_view ShownQuirkName(int row);
 
 /// The minor and major quirks and flaws held, each as often as it is held.
 std::vector<std::string> HeldQuirkNames(const Game& game);

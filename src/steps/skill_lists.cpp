@@ -9,7 +9,9 @@ namespace {
 
 constexpr int kAllInOne = 0;
 
-std::size_t Index(int number) { return static_cast<std::size_t>(number); }
+std::size_t Index(int number) {
+  return static_cast<std::size_t>(number);
+}
 
 bool IsListed(const Game& game, const SkillRecord& skill, int view) {
   const bool isOfView = view == kAllInOne ? skill.Category > 0 : skill.Category == view;
@@ -56,7 +58,9 @@ void VisitOwned(const CharacterSheet& sheet, Visit visit) {
   }
 }
 
-std::string LineOf(std::string_view name, int mastery) { return Format("%s %i.", TrimRight(name), mastery); }
+std::string LineOf(std::string_view name, int mastery) {
+  return Format("%s %i.", TrimRight(name), mastery);
+}
 
 std::string_view NameOf(const CharacterSheet& sheet, const SkillTarget& target) {
   if (target.Kind == SkillKind::Plain) return RecordOf(target).Name;

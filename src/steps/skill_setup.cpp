@@ -10,7 +10,7 @@
 #include "steps/skill_buyer.h"
 #include "steps/skill_suites.h"
 #include "steps/skill_target.h"
-#include "steps/talents.h"
+#include "steps/talent_purchase.h"
 #include "text/numbers.h"
 #include "text/search.h"
 
@@ -21,7 +21,9 @@ namespace {
 constexpr int kSetupBP = 100;
 constexpr int kFreeOfRace = -1;  // a talent that the race has for nothing
 
-std::size_t Index(int number) { return static_cast<std::size_t>(number); }
+std::size_t Index(int number) {
+  return static_cast<std::size_t>(number);
+}
 
 // --- The Honor die of earlier purchases --------------------------------------------------------------------------
 

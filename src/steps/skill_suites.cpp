@@ -10,9 +10,13 @@ namespace veld {
 
 namespace {
 
-std::size_t Index(int number) { return static_cast<std::size_t>(number); }
+std::size_t Index(int number) {
+  return static_cast<std::size_t>(number);
+}
 
-bool IsFamilyLink(int link) { return link < 0 && link > kNoSkillLink; }
+bool IsFamilyLink(int link) {
+  return link < 0 && link > kNoSkillLink;
+}
 
 /// The slot of a suite's member, remembered by the suite's code and the member's place.
 int& RememberedSlot(CharacterSheet& sheet, int row, std::size_t member) {

@@ -8,7 +8,9 @@ namespace veld {
 
 namespace {
 
-std::size_t Index(int number) { return static_cast<std::size_t>(number); }
+std::size_t Index(int number) {
+  return static_cast<std::size_t>(number);
+}
 
 bool IsSlotFree(const CharacterSheet& sheet, int family, std::size_t slot) {
   return sheet.SkillDetailNames[Index(family)][slot].Empty() && sheet.SkillDetailCounts[Index(family)][slot] == 0;

@@ -130,8 +130,8 @@ std::string LinkedNames(const std::array<int, Slots>& links) {
 void ShowLinks(const Game& game, Form& form, const SkillTarget& target) {
   const SkillRecord& skill = RecordOf(target);
   const bool isSuite = skill.Category == SkillCategory::Suite;
-  const auto prerequisites = target.Kind == SkillKind::Plain ? SkillPrerequisites(target.Row, MakeSkillBuyer(game))
-                                                             : skill.Prerequisites;
+  const auto prerequisites =
+      target.Kind == SkillKind::Plain ? SkillPrerequisites(target.Row, MakeSkillBuyer(game)) : skill.Prerequisites;
   form.SetText(SkillsControl::LinksHead, isSuite ? "Skill Suite Skills" : "Prerequisite Skills");
   form.SetText(SkillsControl::Links, isSuite ? LinkedNames(skill.SuiteMembers) : LinkedNames(prerequisites));
 }
@@ -224,18 +224,26 @@ void PickFree(Game& game, SkillsPage& page) {
 
 void RunCommand(Game& game, SkillsPage& page, int id) {
   switch (id) {
-    case kAdd: return AddOrImprove(game, page);
-    case kBonusPoints: return ApplyBonusPoints(game, page.SelectedOwned());
-    case kTakeAsFree: return PickFree(game, page);
-    case kProficiencies: return RunWeaponProf(game);
-    case kTalents: return RunTalents(game);
-    case kTattoos: return RunTattoo(game);
+    case kAdd:
+      return AddOrImprove(game, page);
+    case kBonusPoints:
+      return ApplyBonusPoints(game, page.SelectedOwned());
+    case kTakeAsFree:
+      return PickFree(game, page);
+    case kProficiencies:
+      return RunWeaponProf(game);
+    case kTalents:
+      return RunTalents(game);
+    case kTattoos:
+      return RunTattoo(game);
     case kOk:
       if (!MeetsSkillRequirements(game)) return;
       game.run.CurrentStep = 13;
       return page.form.Close();
-    case kAbort: return page.form.Close();
-    default: return;
+    case kAbort:
+      return page.form.Close();
+    default:
+      return;
   }
 }
 

@@ -14,7 +14,7 @@ inline constexpr int Die = 92;
 inline constexpr int Links = 93;
 inline constexpr int LinksHead = 199;
 inline constexpr int Page = 505;
-inline constexpr int Refusal = 506;  ///< what a purchase would be refused for
+inline constexpr int Refusal = 506;   ///< what a purchase would be refused for
 inline constexpr int Selected = 507;  ///< its name
 }  // namespace SkillsControl
 

@@ -57,15 +57,16 @@ constexpr ControlTemplate kWeaponProfControls[] = {
     ButtonAt(4, 1, kRemove, "&Remove Proficiency"),
     ButtonAt(4, 1, kSpecialize, "S&pecialize this Proficiency"),
     LabelAt(5, 1, "Speciali&zations"),
-    ResultAt(5, 1, kSpecialState, 16),
     ListAt(6, 1, kSpecial, kListWidth, kSpecialLines),
     ButtonAt(7, 1, kRemoveSpecial, "Remo&ve Specialization"),
     ButtonAt(7, 1, kIncrease, "&Increase Specialization"),
     LabelAt(8, 0, "Damage, tiny to gargantuan"),
-    {.Kind = ControlKind::Result, .Id = kDamage, .Row = 8, .Column = 1, .Width = 50},
-    TextAt(9, 0, kNote, "", 2 * kListWidth + 12, 2, 1, 2),
-    ButtonAt(10, 0, kTake, "&Take as a Proficiency", ButtonRole::Default),
-    ButtonAt(10, 1, kClose, "&Close", ButtonRole::Cancel),
+    ResultAt(8, 1, kDamage, 50),
+    LabelAt(9, 0, "Specialization"),
+    ResultAt(9, 1, kSpecialState, 16),
+    TextAt(10, 0, kNote, "", 2 * kListWidth + 12, 2, 1, 2),
+    ButtonAt(11, 0, kTake, "&Take as a Proficiency", ButtonRole::Default),
+    ButtonAt(11, 1, kClose, "&Close", ButtonRole::Cancel),
 };
 constexpr FormTemplate kWeaponProf{"WeaponProf", "Weapon Proficiencies", kWeaponProfControls};
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <set>
 
+#include "dice/keep_roll.h"
 #include "dice/random.h"
 #include "rules/class_table.h"
 #include "steps/cherry_pick.h"

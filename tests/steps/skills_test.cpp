@@ -617,7 +617,7 @@ void ExpectSoundSkills(const Game& game) {
 }
 
 TEST(SkillsPlayTest, AnyPlayEndsWithSoundSkills) {
-  constexpr const char* kPackages[] = {"None",         "Hermit", "Scholar", "Falconer",   "Amazon",
+  constexpr const char* kPackages[] = {"None",          "Hermit", "Scholar",  "Falconer",    "Amazon",
                                        "Noble Warrior", "Savage", "Myrmidon", "Trailblazer", "Wilderness Warrior"};
   int bought = 0;
   for (std::uint32_t seed = 1; seed <= 130 && !::testing::Test::HasFailure(); ++seed) {

@@ -18,6 +18,11 @@ bool IsTyped(ControlKind kind) {
   return kind == ControlKind::Edit || kind == ControlKind::Number || kind == ControlKind::MultiLine;
 }
 
+bool CanBeUsed(ControlKind kind) {
+  return IsTyped(kind) || kind == ControlKind::Button || kind == ControlKind::List || kind == ControlKind::Combo ||
+         kind == ControlKind::Check || kind == ControlKind::Radio;
+}
+
 }  // namespace
 
 std::uint32_t RandomPlayer::Pick(std::uint32_t below) {
@@ -26,9 +31,13 @@ std::uint32_t RandomPlayer::Pick(std::uint32_t below) {
 }
 
 void RandomPlayer::Act(Form& form) {
-  const auto count = static_cast<std::uint32_t>(form.Controls().size());
+  std::vector<const Control*> usable;
+  for (const Control& control : form.Controls()) {
+    if (control.Enabled && control.Visible && CanBeUsed(control.Template.Kind)) usable.push_back(&control);
+  }
+  if (usable.empty()) return;
   // A copy: the handler may change or close the form.
-  const Control control = form.Controls()[Pick(count)];
+  const Control control = *usable[Pick(static_cast<std::uint32_t>(usable.size()))];
   const int id = control.Template.Id;
   const ButtonRole role = control.Template.Role;
   switch (control.Template.Kind) {
