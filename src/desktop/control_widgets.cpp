@@ -61,6 +61,12 @@ QWidget* MakeMultiLine(const PaperStyle& style, QWidget* page) {
   return edit;
 }
 
+QWidget* MakeCombo(const PaperStyle& style, QWidget* page) {
+  auto* combo = new QComboBox(page);
+  combo->setItemDelegate(MakeRowPainter(style, combo));
+  return combo;
+}
+
 QWidget* MakeProgress(QWidget* page) {
   auto* progress = new QProgressBar(page);
   progress->setRange(0, 100);
@@ -110,7 +116,7 @@ QWidget* MakeControlWidget(const Control& control, const PaperStyle& style, QWid
     case ControlKind::List:
       return new RuledList(style, page);
     case ControlKind::Combo:
-      return new QComboBox(page);
+      return MakeCombo(style, page);
     case ControlKind::Check:
       return new QCheckBox(page);
     case ControlKind::Radio:

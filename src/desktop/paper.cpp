@@ -157,11 +157,15 @@ bool Writing::event(QEvent* event) {
   return true;
 }
 
+QAbstractItemDelegate* MakeRowPainter(const PaperStyle& style, QObject* parent) {
+  return new RowPainter(style.Metrics, parent);
+}
+
 // --- RuledList ---------------------------------------------------------------------------------------------------
 
 RuledList::RuledList(const PaperStyle& style, QWidget* parent)
     : QListView(parent), model_(new QStringListModel(this)), pitch_(style.Metrics.Pitch) {
-  setItemDelegate(new RowPainter(style.Metrics, this));
+  setItemDelegate(MakeRowPainter(style, this));
   setModel(model_);
   setUniformItemSizes(true);
   setEditTriggers(NoEditTriggers);

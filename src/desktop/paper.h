@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAbstractItemDelegate>
 #include <QLabel>
 #include <QListView>
 #include <QStringListModel>
@@ -46,6 +47,9 @@ class Writing : public QLabel {
   const PageMetrics& metrics_;
   QStringList lines_;
 };
+
+/// Draws the rows of lists and combos: one to a rule of the paper, in ink on white, a wash over the chosen one.
+QAbstractItemDelegate* MakeRowPainter(const PaperStyle& style, QObject* parent);
 
 /// A list whose rows stand on the rules of the paper.
 class RuledList : public QListView {

@@ -31,13 +31,14 @@ enum class ButtonRole : std::uint8_t {
 };
 
 /// A control of a form as data. Its place is a cell of the form's grid; controls with the same row and column stand
-/// side by side in that cell, in the order of the template (a row of buttons is one cell).
+/// side by side in that cell, in the order of the template (a row of buttons is one cell, and runs on over the empty
+/// cells to its right). A row number left out is a blank line.
 struct ControlTemplate {
   ControlKind Kind = ControlKind::Label;
   int Id = 0;             ///< 0: nobody reads or changes it
   int Row = 0;
   int Column = 0;
-  std::string_view Text = {};  ///< '&' stands before the letter that reaches it
+  std::string_view Text = {};  ///< Label, Button, Check, Radio: '&' stands before the letter that reaches it
   int Width = 0;          ///< wanted width in characters; 0: what its text needs
   int Lines = 1;          ///< wanted height in lines; Text: 0 for as many as its text needs
   int RowSpan = 1;

@@ -455,12 +455,23 @@ void PlanRow(Page& page, int place, int cap) {
     row.Lines = std::max(row.Lines, CornerLines(page));
 }
 
-/// The blank line between a row and the one above it: under boxes that hang over their line, and above headings.
+/// A row of several buttons and nothing else, as the one that ends a form.
+bool IsButtonRow(const Page& page, int row) {
+  const auto isButton = [&](std::size_t c) { return page.KindOf(c) == ControlKind::Button; };
+  return std::ranges::all_of(page.cells, [&](const Cell& cell) {
+    return cell.Row != row || (cell.Controls.size() > 1 && std::ranges::all_of(cell.Controls, isButton));
+  });
+}
+
+/// The blank line between a row and the one above it: under boxes that hang over their line, above headings, and above
+/// a row of buttons that stands densely.
 int LinesBefore(Page& page, int place, int above) {
   const int frame = RowHas(page, place, Stretches) ? page.metrics.FrameAbove : 0;
   const bool isUnderBoxes = RowHas(page, above, IsBox) && !RowHas(page, place, IsBox) && BoxOverhang(page) + frame > 0;
-  const bool isUnderTitle = RowHas(page, above, [](ControlKind kind) { return kind == ControlKind::Title; });
-  return isUnderBoxes || (page.hasBlanks && IsHeadingRow(page, place) && !isUnderTitle) ? 1 : 0;
+  if (isUnderBoxes) return 1;
+  if (!page.hasBlanks || RowHas(page, above, [](ControlKind kind) { return kind == ControlKind::Title; })) return 0;
+  const bool endsDenseRows = !page.isRoomy && IsButtonRow(page, place) && !IsButtonRow(page, above);
+  return IsHeadingRow(page, place) || endsDenseRows ? 1 : 0;
 }
 
 /// Gives each row its lines. Lists and texts want no more than `cap`. Returns the lines of the whole page.

@@ -1,8 +1,8 @@
 #include "shell/save_by_extension.h"
 
-#include <algorithm>
-
+#include "sheets/sheet_save.h"
 #include "store/character_file.h"
+#include "text/file_name.h"
 #include "text/search.h"
 
 namespace veld {
@@ -21,13 +21,6 @@ void TellNoWriter(Game& game, std::string_view kind) {
   game.platform.ShowMessage(Format("This version of VELD does not write %s sheets yet.", kind));
 }
 
-/// The character's name as the name of a file.
-std::string FileNameOf(const Game& game) {
-  std::string name = DisplayText(game.sheet.CharacterName);
-  std::ranges::replace(name, '/', '_');
-  return name;
-}
-
 }  // namespace
 
 void SaveByExtension(Game& game, const std::string& path) {
@@ -35,20 +28,20 @@ void SaveByExtension(Game& game, const std::string& path) {
   if (has(".vlf")) {
     SaveCharacterFile(game, path);
   } else if (has(".htm") || has(".html")) {
-    TellNoWriter(game, "HTML");
+    SaveHtmlSheet(game, path);
   } else if (has(".txt") || has(".TXT")) {
-    TellNoWriter(game, "text");
+    SaveTextSheet(game, path);
   } else if (has(".xml") || has(".XML")) {
     TellNoWriter(game, "XML");
   } else if (has(".csv") || has(".CSV")) {
-    TellNoWriter(game, "tab-separated");
+    SaveTabSheet(game, path);
   } else {
     game.platform.ShowMessage("Problem Saving Character: invalid file extension");
   }
 }
 
 bool AskAndSaveCharacter(Game& game) {
-  const auto path = game.platform.AskSavePath("Save", kSaveFilters, FileNameOf(game));
+  const auto path = game.platform.AskSavePath("Save", kSaveFilters, FileNamePart(game.sheet.CharacterName));
   if (!path) return false;
   SaveByExtension(game, *path);
   return true;

@@ -11,8 +11,8 @@
 
 namespace veld {
 
-// Lists of a form of which each line stands for something: a Line has the Text that is shown and the Place that it stands
-// for, which knows whether it is none (IsNone) and can be compared.
+// Lists of a form of which each line stands for something: a Line has the Text that is shown and the Place that it
+// stands for, which knows whether it is none (IsNone) and can be compared.
 
 /// The place behind the selected line of a list; none if no line is selected.
 template <typename Line>

@@ -5,9 +5,8 @@
 
 namespace veld {
 
-/// The character as the price rules of skills and talents read it. The record looks at the game's own arrays: it follows
-/// their changes, but not a change of race, class or package, nor of the whole scores and the run's discounts, which are
-/// copied; make it anew for each price. A race that is not found has no talents.
+/// The character as the price rules of skills and talents read it. The record looks at the game's own arrays and names
+/// and copies its numbers: make it anew for each price. A race that is not found has no talents.
 SkillBuyer MakeSkillBuyer(const Game& game);
 
 }  // namespace veld

@@ -423,7 +423,8 @@ TEST(WeaponProfRandomTest, WhatIsHeldWasPaid) {
       slots += weapon.SpecializationCost + level - ProficiencyMark::Specialized;
       bp += weapon.SpecializationCost * (level - ProficiencyMark::Proficient);
     }
-    const int picks = static_cast<int>(std::ranges::count_if(game->sheet.ProficiencyPicks[0], [](int r) { return r >= 0; }));
+    const auto isPick = [](int weapon) { return weapon >= 0; };
+    const int picks = static_cast<int>(std::ranges::count_if(game->sheet.ProficiencyPicks[0], isPick));
     const int thrownAway = used - slots - picks;  // two slots and BP for each Quick Draw that was given up
     ASSERT_GE(thrownAway, 0) << run;
     ASSERT_EQ(thrownAway % 2, 0) << run;
