@@ -5,6 +5,7 @@
 #include <climits>
 #include <cstddef>
 
+#include "text/format.h"
 #include "text/search.h"
 
 namespace veld {
@@ -399,7 +400,7 @@ int BirthOrderInheritance(std::string_view birthOrder) {
 }
 
 std::string SiblingLine(const SiblingRolls& rolls) {
-  return " " + SiblingText(rolls);
+  return Format(" %s", SiblingText(rolls));
 }
 
 std::string IllegitimateSiblingLine(const SiblingRolls& rolls) {

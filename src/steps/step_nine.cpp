@@ -111,6 +111,7 @@ void RunStepNine(Game& game) {
     FillClassBox(game, form);
     missing = MissingClasses(game);
     ShowMissingClasses(form, missing);
+    form.Focus(kClassList);
   };
   form.onSelect = [&](int id) {
     const int selection = form.Selection(id);

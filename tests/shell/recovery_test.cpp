@@ -38,6 +38,29 @@ TEST(RecoveryTest, EachCharacterHasOneCopyAndTheLastFiveStay) {
   EXPECT_TRUE(platform.messages.empty()) << "the copies are silent";
 }
 
+TEST(RecoveryTest, LoadingThatIsCancelledOrFailsPushesNoOtherCopyOut) {
+  TestFolder folder;
+  ScriptedPlatform platform;
+  const auto game = MakeGame(platform);
+  game->sheet.CharacterName = "First";
+  LeaveRecoveryCopy(*game);
+  game->sheet.CharacterName = "Second";
+  testing::WriteText("odd.vlf", "nothing of ours");
+  for (int tries = 0; tries < kRecoveryCopies; ++tries) {
+    platform.ExpectOpenPath(tries % 2 == 0 ? "" : "odd.vlf");
+    RunMainCommand(*game, kLoad);
+  }
+  EXPECT_EQ(RecoveryCopies().size(), 2U);
+
+  platform.ExpectOpenPath("autosave2.vlf");
+  RunMainCommand(*game, kLoad);
+  EXPECT_EQ(game->sheet.CharacterName, "First");
+  KeepRecoveryCopy(*game);
+  const auto copies = RecoveryCopies();
+  ASSERT_EQ(copies.size(), 3U);
+  EXPECT_EQ(copies[1].Name, "Second") << "a character that was loaded has a copy of its own";
+}
+
 TEST(RecoveryTest, TheDialogBringsACopyBackAndKeepsWhatWasThere) {
   TestFolder folder;
   ScriptedPlatform platform;
