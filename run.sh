@@ -1,14 +1,23 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds VELD and starts it.
+# Installs what is missing, builds VELD and starts it: in windows where there is a display, else in this terminal.
+#   ./run.sh              ./run.sh --terminal    always in this terminal
 set -euo pipefail
 cd "$(dirname "$0")"
 
-if [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] && [ -z "${QT_QPA_PLATFORM:-}" ]; then
-  echo "VELD needs a desktop to show its windows on: start it inside a graphical session, or under Xvfb with 'xvfb-run ./run.sh'." >&2
-  exit 1
+if [ "${1:-}" = --terminal ] || { [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] && [ -z "${QT_QPA_PLATFORM:-}" ]; }; then
+  if [ ! -t 0 ] || [ ! -t 1 ]; then
+    echo "VELD needs a display or a terminal: start it inside a graphical session or in a terminal, or under Xvfb with 'xvfb-run ./run.sh'." >&2
+    exit 1
+  fi
+  scripts/install-packages.sh g++ cmake ninja-build libncurses-dev
+  scripts/configure.sh terminal
+  cmake --build build/terminal --target veld-terminal veld_data -- --quiet
+  exec build/terminal/bin/veld-terminal
 fi
 
-scripts/install-packages.sh g++ cmake ninja-build qt6-base-dev libqt6widgets6 fonts-liberation
-[ -f build/release/build.ninja ] || cmake --preset release -G Ninja >/dev/null
+packages=(g++ cmake ninja-build qt6-base-dev libqt6widgets6 fonts-liberation libncurses-dev)
+[ -n "${DISPLAY:-}" ] || [ -z "${WAYLAND_DISPLAY:-}" ] || packages+=(qt6-wayland)  # a session without X
+scripts/install-packages.sh "${packages[@]}"
+scripts/configure.sh release
 cmake --build build/release --target veld veld_data -- --quiet
 exec build/release/bin/veld "$@"

@@ -3,8 +3,8 @@
 set -euo pipefail
 cd "$(dirname "$0")"
 
-scripts/install-packages.sh g++ cmake ninja-build qt6-base-dev libqt6widgets6 fonts-liberation libgtest-dev
-[ -f build/sanitize/build.ninja ] || cmake --preset sanitize -G Ninja >/dev/null
+scripts/install-packages.sh g++ cmake ninja-build qt6-base-dev libqt6widgets6 fonts-liberation libgtest-dev libncurses-dev
+scripts/configure.sh sanitize
 cmake --build build/sanitize -- --quiet
 
 export QT_QPA_PLATFORM=offscreen

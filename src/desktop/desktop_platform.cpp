@@ -8,6 +8,7 @@
 #include <QFileDialog>
 #include <QFontDatabase>
 #include <QTimer>
+#include <QWindow>
 #include <algorithm>
 #include <chrono>
 #include <stdexcept>
@@ -31,6 +32,7 @@ constexpr ControlTemplate kProgressControls[] = {
 };
 constexpr FormTemplate kProgressTemplate{"Progress", "VELD", kProgressControls};
 constexpr int kProgressEvery = 25;  // milliseconds from one look at what the player does to the next
+constexpr int kUnseen = 1000;       // milliseconds after which a window that nobody sees starts all the same
 
 /// "Text Files (*.TXT)" of ".txt" for the file dialog, which shows the name as it is and takes what stands in the last
 /// brackets for its own.
@@ -67,6 +69,32 @@ void FollowFilter(QFileDialog& dialog, std::span<const FileFilter> filters) {
     return dialog.selectFile(name.chopped(old.size()) + ToQtLine(extension));
   }
 }
+
+/// Starts the program's work when its window has been painted for the first time: the player sees it at once, and waits
+/// for the rest with it before him.
+class AfterFirstPaint : public QObject {
+ public:
+  AfterFirstPaint(QWidget& window, std::function<void()> start) : QObject(&window), start_(std::move(start)) {
+    window.winId();  // makes the window that is watched
+    window.windowHandle()->installEventFilter(this);
+    QTimer::singleShot(kUnseen, this, [this] { Start(); });
+  }
+
+  bool eventFilter(QObject*, QEvent* event) override {
+    // It is painted while this event is handled, or on the next turn of the loop.
+    if (event->type() == QEvent::Expose) {
+      QTimer::singleShot(0, this, [this] { QTimer::singleShot(0, this, [this] { Start(); }); });
+    }
+    return false;
+  }
+
+ private:
+  void Start() {
+    if (const auto start = std::exchange(start_, nullptr)) start();
+  }
+
+  std::function<void()> start_;
+};
 
 /// Puts a dialog on top of the others for as long as it runs.
 class OnTop {
@@ -180,10 +208,8 @@ void DesktopPlatform::RunMainWindow(const MainWindow& window) {
     if (window.onCommand) Act([&] { window.onCommand(id); });
   };
   main_->onClosed = [&] { loop.quit(); };
+  if (window.onStart) new AfterFirstPaint(*main_, [&] { Act([&] { window.onStart(); }); });
   main_->show();
-  if (window.onStart) {
-    QTimer::singleShot(0, main_.get(), [&] { Act([&] { window.onStart(); }); });
-  }
   loop.exec();
   mainLoop_ = nullptr;
   beside_.clear();

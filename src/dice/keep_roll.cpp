@@ -25,10 +25,13 @@ bool CanHold(const Game& game, int row) {
   return held != -1 && held < QuirkLimit(game, row);
 }
 
-/// True if some result of the dice yields a row that the character can hold.
-bool CanYieldRow(const Game& game, std::string_view table, const QuirkDie& die) {
+using RowFilter = std::function<bool(int row)>;
+
+/// True if some result of the dice yields a row that the character can hold and the caller can use.
+bool CanYieldRow(const Game& game, std::string_view table, const QuirkDie& die, const RowFilter& isUsable) {
   for (int roll = die.Count; roll <= die.Count * die.Sides; ++roll) {
-    if (CanHold(game, QuirkRowOfRoll(table, roll))) return true;
+    const int row = QuirkRowOfRoll(table, roll);
+    if (CanHold(game, row) && (!isUsable || isUsable(row))) return true;
   }
   return false;
 }
@@ -36,6 +39,22 @@ bool CanYieldRow(const Game& game, std::string_view table, const QuirkDie& die) 
 TableResult TellNoRow(Game& game, std::string_view table) {
   game.platform.ShowMessage(Format("The table '%s' has no result left.", table));
   return {Outcome::NoRow, 0};
+}
+
+/// One roll on a table. Nothing is rolled when no row is left that the caller could use.
+TableResult RollOnce(Game& game, std::string_view table, const RowFilter& isUsable) {
+  const QuirkDie die = QuirkTableDie(table);
+  if (!CanYieldRow(game, table, die, isUsable)) return TellNoRow(game, table);
+  const int roll = RollDice(game, die.Sides, die.Count);
+  const int row = QuirkRowOfRoll(table, roll);
+  if (!CanHold(game, row)) return {Outcome::RollAgain, 0};
+  const std::string_view name = ShownQuirkName(row);
+  const int bp = game.run.QuirkBPCosts[static_cast<std::size_t>(row)];
+  if (!(game.run.BuildingPoints > 0)) return {Outcome::Row, row};
+  const std::string question = bp > 0 ? Format("Keep your result of (%i) %s (%i BP)?", roll, name, bp)
+                                      : Format("Keep your result of (%i) %s?", roll, name);
+  if (!IsKept(game, question)) return {Outcome::RollAgain, 0};
+  return {Outcome::Row, row};
 }
 
 }  // namespace
@@ -53,24 +72,11 @@ int AskKeepRoll(Game& game, Form& window, int sides, int count) {
   }
 }
 
-TableResult AskKeepTableResult(Game& game, std::string_view table) {
-  const QuirkDie die = QuirkTableDie(table);
-  if (!CanYieldRow(game, table, die)) return TellNoRow(game, table);
-  const int roll = RollDice(game, die.Sides, die.Count);
-  const int row = QuirkRowOfRoll(table, roll);
-  if (!CanHold(game, row)) return {Outcome::RollAgain, 0};
-  const std::string_view name = ShownQuirkName(row);
-  const int bp = game.run.QuirkBPCosts[static_cast<std::size_t>(row)];
-  if (!(game.run.BuildingPoints > 0)) return {Outcome::Row, row};
-  const std::string question = bp > 0 ? Format("Keep your result of (%i) %s (%i BP)?", roll, name, bp)
-                                      : Format("Keep your result of (%i) %s?", roll, name);
-  if (!IsKept(game, question)) return {Outcome::RollAgain, 0};
-  return {Outcome::Row, row};
-}
+TableResult AskKeepTableResult(Game& game, std::string_view table) { return RollOnce(game, table, {}); }
 
 TableResult RollTableUntilRow(Game& game, std::string_view table, const std::function<bool(int)>& isUsable) {
   for (int tries = 0; tries < kMostTableRolls; ++tries) {
-    const TableResult result = AskKeepTableResult(game, table);
+    const TableResult result = RollOnce(game, table, isUsable);
     if (result.Outcome == Outcome::NoRow) return result;
     if (result.IsRow() && (!isUsable || isUsable(result.Row))) return result;
   }

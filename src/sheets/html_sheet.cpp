@@ -16,7 +16,8 @@ constexpr std::string_view kStyle = R"(
 body { margin: 0 auto; padding: 1rem; max-width: 52rem; background: #fff; color: var(--ink);
   font: 0.95rem/1.5 "Liberation Sans", Arial, Helvetica, sans-serif; overflow-wrap: break-word; }
 h1 { margin: 0; font-size: 1.7rem; line-height: 1.2; color: #111; }
-h2 { margin: 1.4rem 0 0.3rem; padding-bottom: 0.1rem; border-bottom: 2px solid var(--ink); font-size: 1.1rem; color: #111; }
+h2 { margin: 1.4rem 0 0.3rem; padding-bottom: 0.1rem; border-bottom: 2px solid var(--ink);
+  font-size: 1.1rem; color: #111; }
 h3 { margin: 0.8rem 0 0.2rem; font-size: 0.95rem; color: #111; }
 h2, h3, caption { break-after: avoid; }
 p { margin: 0.2rem 0; }
@@ -36,6 +37,7 @@ th, td { padding: 0.05rem 0.4rem; border-bottom: 1px solid var(--rule); text-ali
 thead th { color: var(--label); font-weight: 400; }
 tbody th { text-align: left; font-weight: 600; }
 td.text, th.text { text-align: left; white-space: normal; }
+tr > :first-child { padding-left: 0; }
 tr { break-inside: avoid; }
 thead { display: table-header-group; }
 .notes { white-space: pre-wrap; }
@@ -45,6 +47,7 @@ thead { display: table-header-group; }
   body { padding: 0; max-width: none; font-size: 9.5pt; line-height: 1.4; }
   .scroll { overflow: visible; }
   th, td { padding: 0 0.25rem; }
+  tr > :first-child { padding-left: 0; }
 }
 )";
 
@@ -53,12 +56,23 @@ std::string Escaped(std::string_view text) {
   std::string escaped;
   for (const char c : DisplayText(text)) {
     switch (c) {
-      case '&': escaped += "&amp;"; break;
-      case '<': escaped += "&lt;"; break;
-      case '>': escaped += "&gt;"; break;
-      case '"': escaped += "&quot;"; break;
-      case '\'': escaped += "&#39;"; break;
-      default: escaped += c;
+      case '&':
+        escaped += "&amp;";
+        break;
+      case '<':
+        escaped += "&lt;";
+        break;
+      case '>':
+        escaped += "&gt;";
+        break;
+      case '"':
+        escaped += "&quot;";
+        break;
+      case '\'':
+        escaped += "&#39;";
+        break;
+      default:
+        escaped += c;
     }
   }
   return escaped;
@@ -105,14 +119,14 @@ class Page {
     CloseFacts();
   }
 
-  void OpenTable(std::initializer_list<std::string_view> heads) {
+  /// A table with its heads. The first column is one of texts; a column named so as well.
+  void OpenTable(std::initializer_list<std::string_view> heads, std::string_view textColumn = {}) {
     Raw("<div class=\"scroll\"><table>\n<thead><tr>");
-    bool isFirst = true;
-    for (const std::string_view head : heads) {
-      Raw(isFirst ? "<th scope=\"col\" class=\"text\">" : "<th scope=\"col\">");
+    for (const std::string_view& head : heads) {
+      const bool isText = &head == heads.begin() || (!head.empty() && head == textColumn);
+      Raw(isText ? "<th scope=\"col\" class=\"text\">" : "<th scope=\"col\">");
       Text(head);
       Raw("</th>");
-      isFirst = false;
     }
     Raw("</tr></thead>\n<tbody>\n");
   }
@@ -207,7 +221,7 @@ void AddAbilities(Page& page, const CharacterSheet& s) {
   const auto text = [](std::string_view value) { return std::string(value); };
   const auto number = [](int value) { return Format("%i", value); };
   page.Open("Ability Scores", true);
-  page.OpenTable({"Ability", "Score", "Effects"});
+  page.OpenTable({"Ability", "Score", "Effects"}, "Effects");
   AddAbility(page, "Strength", s.Strength,
              {{"to hit", text(s.StrengthHitAdj)},
               {"damage", text(s.StrengthDamageAdj)},
@@ -290,8 +304,8 @@ void AddSaves(Page& page, const CharacterSheet& s) {
 void AddWeapons(Page& page, std::string_view heading, std::string_view speedHead,
                 const std::vector<SheetWeapon>& weapons) {
   page.Open(heading);
-  page.OpenTable({"Weapon", "Hit", "Damage", speedHead, "Type", "T dam", "S dam", "M dam", "L dam", "H dam", "G dam",
-                  "BSL"});
+  page.OpenTable(
+      {"Weapon", "Hit", "Damage", speedHead, "Type", "T dam", "S dam", "M dam", "L dam", "H dam", "G dam", "BSL"});
   for (const SheetWeapon& held : weapons) {
     page.OpenRow(TrimRight(held.Weapon->Name));
     page.Cell(HitAdjustment(held));

@@ -9,6 +9,7 @@
 #include "rules/talent_table.h"
 #include "steps/ability_effects_apply.h"
 #include "steps/class_recalculation.h"
+#include "steps/proficiency_purchase.h"
 #include "steps/tattoo.h"
 #include "text/format.h"
 #include "text/numbers.h"
@@ -26,7 +27,9 @@ constexpr std::size_t kBountyHunterRow = 60;
 constexpr int kAssassinsFirstLevel = 3;  ///< an assassin has no thief's skills before
 constexpr std::size_t kSiblingsShown = 9;
 
-std::size_t At(int number) { return static_cast<std::size_t>(number); }
+std::size_t At(int number) {
+  return static_cast<std::size_t>(number);
+}
 
 // ---- Classes and weapons ----
 
@@ -53,27 +56,30 @@ std::array<int, 5> GatherLimits(const CharacterSheet& sheet) {
 
 /// The proficiencies with a mark: pass after pass, so that those of one mark stand together.
 void GatherProficiencies(const CharacterSheet& sheet, SheetContent& content) {
-  for (const int pass : {kLimited, kBasic, kSpecialized, kMastery}) {
+  using namespace ProficiencyMark;
+  for (const int pass : {Limited, Proficient, Specialized, kMasteryMark}) {
     for (std::size_t row = 0; row < kProficiencyRows; ++row) {
       const int mark = sheet.ProficiencyLevels[row];
       const ProficiencyRecord& record = ProficiencyTable()[row];
-      if (record.Name.empty() || mark < kLimited || std::min(mark, +kMastery) != pass) continue;
+      if (record.Name.empty() || std::min(mark, kMasteryMark) != pass) continue;
       content.Proficiencies.push_back({&record, mark});
-      // The tables of weapons have no line for a mark beyond Mastery, that of missiles none for Mastery either.
-      if (record.Kind == ProficiencyKind::Melee && mark <= kMastery) content.Melee.push_back({&record, mark});
-      if (record.Kind == ProficiencyKind::Missile && mark <= kSpecialized) content.Missile.push_back({&record, mark});
+      // The table of missile weapons has no line for Mastery.
+      if (record.Kind == ProficiencyKind::Melee) content.Melee.push_back({&record, mark});
+      if (record.Kind == ProficiencyKind::Missile && mark <= Specialized) content.Missile.push_back({&record, mark});
     }
   }
   for (std::size_t row = 0; row < sheet.ProficiencyPicks.size(); ++row) {
     for (const int pick : sheet.ProficiencyPicks[row]) {
       if (pick < 0 || pick >= kProficiencyTableRows) continue;
-      content.Picks.push_back({ProficiencyTable2()[row].Name, std::string(TrimRight(ProficiencyTable()[At(pick)].Name))});
+      content.Picks.push_back(
+          {ProficiencyTable2()[row].Name, std::string(TrimRight(ProficiencyTable()[At(pick)].Name))});
     }
   }
 }
 
 // ---- Tattoos ----
 
+/// What is printed of a tattoo on a place. One line begins with a stray bracket and some are a blank short: kept.
 struct TattooLine {
   int CharacterSheet::*Tattoo;
   int Place;
@@ -87,7 +93,7 @@ constexpr TattooLine kTattooLines[] = {
     {&Sheet::TattooArdkrin,  kLeftUpperArm,  "Ardkrin,      Left Upper Arm, +1AC against all melee attacks"},
     {&Sheet::TattooArdkrin,  kRightUpperArm, "Ardkrin,      Right Upper Arm, +1AC against all melee attacks"},
     {&Sheet::TattooShewkrin, kLeftLowerArm,  "Shewkrin,     Left Lower Arm, +1AC against all missile attacks"},
-    {&Sheet::TattooShewkrin, kRightLowerArm, ">Shewkrin,    Right Lower Arm, +1AC against all missile attacks"},  // a stray bracket, kept
+    {&Sheet::TattooShewkrin, kRightLowerArm, ">Shewkrin,    Right Lower Arm, +1AC against all missile attacks"},
     {&Sheet::TattooYiskrin,  kForehead,      "Yiskrin,      Forehead, +1 to Charisma"},
     {&Sheet::TattooTarkrin,  kForehead,      "Tarkrin,      Forehead, Diminish Evil"},
     {&Sheet::TattooTarkrin,  kLeftUpperArm,  "Tarkrin,      Left Upper Arm, Diminish Evil"},
@@ -452,30 +458,29 @@ SheetContent GatherSheet(const Game& game) {
 
 std::string OneLine(std::string_view text) {
   std::string line = DisplayText(text);
-  std::ranges::replace_if(line, [](char c) { return c == '\t' || c == '\n' || c == '\r'; }, ' ');
+  std::ranges::replace_if(
+      line, [](char c) { return c == '\t' || c == '\n' || c == '\r'; }, ' ');
   return line;
 }
 
-std::string_view HitAdjustment(const SheetWeapon& weapon) {
-  const bool isMissile = weapon.Weapon->Kind == ProficiencyKind::Missile;
-  switch (weapon.Mark) {
-    case kLimited: return "-1";
-    case kSpecialized: return isMissile ? "+2" : "+1";
-    case kMastery: return isMissile ? "" : "+2";
-    default: return "";
-  }
+std::string_view HitAdjustment(const SheetWeapon& held) {
+  const bool isMissile = held.Weapon->Kind == ProficiencyKind::Missile;
+  if (held.Mark == ProficiencyMark::Limited) return "-1";
+  if (held.Mark == ProficiencyMark::Specialized) return isMissile ? "+2" : "+1";
+  return held.Mark >= kMasteryMark && !isMissile ? "+2" : "";
 }
 
-std::string_view DamageAdjustment(const SheetWeapon& weapon) {
-  if (weapon.Weapon->Kind == ProficiencyKind::Missile) return "";
-  return weapon.Mark == kSpecialized ? "+2" : weapon.Mark == kMastery ? "+3" : "";
+std::string_view DamageAdjustment(const SheetWeapon& held) {
+  if (held.Weapon->Kind == ProficiencyKind::Missile) return "";
+  if (held.Mark == ProficiencyMark::Specialized) return "+2";
+  return held.Mark >= kMasteryMark ? "+3" : "";
 }
 
 std::string_view MarkName(int mark) {
-  if (mark == kLimited) return "Limited";
-  if (mark == kBasic) return "Basic";
-  if (mark == kSpecialized) return "Specialized";
-  return mark >= kMastery ? "Mastery" : "";
+  if (mark == ProficiencyMark::Limited) return "Limited";
+  if (mark == ProficiencyMark::Proficient) return "Basic";
+  if (mark == ProficiencyMark::Specialized) return "Specialized";
+  return mark >= kMasteryMark ? "Mastery" : "";
 }
 
 }  // namespace veld

@@ -13,8 +13,8 @@ namespace veld {
 // What all printed sheets show, gathered once from the character and the catalogues. The names of catalogues come
 // without the blanks at their ends; texts that players typed are one line each, tabs and line ends read as blanks.
 
-/// Marks of a proficiency.
-enum ProficiencyMark : int { kLimited = -10, kBasic = 1, kSpecialized = 2, kMastery = 3 };
+/// The first of the proficiency marks that count as Mastery on a sheet; see ProficiencyMark for the others.
+inline constexpr int kMasteryMark = 3;
 
 struct SheetFact {
   std::string_view Label;
@@ -113,8 +113,8 @@ SheetContent GatherSheet(const Game& game);
 std::string OneLine(std::string_view text);
 
 /// The adjustments that a mark brings with a weapon, empty for none: "-1" for a limited proficiency.
-std::string_view HitAdjustment(const SheetWeapon& weapon);
-std::string_view DamageAdjustment(const SheetWeapon& weapon);
+std::string_view HitAdjustment(const SheetWeapon& held);
+std::string_view DamageAdjustment(const SheetWeapon& held);
 
 /// "Basic"; empty for a mark that is none.
 std::string_view MarkName(int mark);

@@ -1,6 +1,7 @@
 #include "sheets/tab_sheet.h"
 
 #include "sheets/sheet_content.h"
+#include "steps/proficiency_purchase.h"
 #include "text/format.h"
 #include "text/search.h"
 
@@ -76,9 +77,9 @@ void AddAbilities(Cells& cells, const CharacterSheet& s) {
 
 void AddSaves(Cells& cells, const CharacterSheet& s) {
   // Rods and staves share a number; quelling has no column.
-  const SaveNumbers* const kShown[] = {&s.SaveParalyzation, &s.SavePoison,       &s.SaveDeathMagic, &s.SavePetrification,
-                                       &s.SavePolymorph,    &s.SaveRod,          &s.SaveRod,        &s.SaveWand,
-                                       &s.SaveBreathWeapon, &s.SaveApology,      &s.SaveSpells};
+  const SaveNumbers* const kShown[] = {&s.SaveParalyzation, &s.SavePoison,  &s.SaveDeathMagic, &s.SavePetrification,
+                                       &s.SavePolymorph,    &s.SaveRod,     &s.SaveRod,        &s.SaveWand,
+                                       &s.SaveBreathWeapon, &s.SaveApology, &s.SaveSpells};
   cells.Add("Saves");
   for (const SaveNumbers* save : kShown) cells.Add(" \t %i", (*save)[kBestSave]);
   cells.Add(" \n");
@@ -90,7 +91,9 @@ void AddWeapons(Cells& cells, const CharacterSheet& sheet) {
   std::vector<const ProficiencyRecord*> weapons;
   for (std::size_t row = 0; row < kProficiencyRows; ++row) {
     const ProficiencyRecord& weapon = ProficiencyTable()[row];
-    if (sheet.ProficiencyLevels[row] != 0 && weapon.Kind <= ProficiencyKind::Missile && !weapon.Name.empty()) {
+    const int mark = sheet.ProficiencyLevels[row];
+    const bool isHeld = mark != ProficiencyMark::None && mark != ProficiencyMark::Untaught;
+    if (isHeld && weapon.Kind <= ProficiencyKind::Missile && !weapon.Name.empty()) {
       weapons.push_back(&weapon);
     }
   }
@@ -118,8 +121,8 @@ void AddAccomplishments(Cells& cells, const SheetContent& content) {
   std::string names = "STP \t";
   std::string values = "Value \t";
   for (const SheetWeapon& held : content.Proficiencies) {
-    if (held.Mark > kSpecialized) continue;
-    names += Format(held.Mark == kSpecialized ? "%s  \t" : "%s \t", TrimRight(held.Weapon->Name));
+    if (held.Mark > ProficiencyMark::Specialized) continue;
+    names += Format(held.Mark == ProficiencyMark::Specialized ? "%s  \t" : "%s \t", TrimRight(held.Weapon->Name));
     values += Format("%s \t", MarkName(held.Mark).substr(0, 1));
   }
   for (const SheetFact& pick : content.Picks) {
@@ -156,7 +159,8 @@ void AddBurden(Cells& cells, const CharacterSheet& sheet, const SheetContent& co
 
 void AddBelongings(Cells& cells, const SheetContent& content) {
   cells.Add("\n Quirks/Flaws \t");
-  for (const SheetItem& quirk : content.Quirks) cells.Add(quirk.Count == 1 ? "%s \t" : "%s x%i\t", quirk.Name, quirk.Count);
+  for (const SheetItem& quirk : content.Quirks)
+    cells.Add(quirk.Count == 1 ? "%s \t" : "%s x%i\t", quirk.Name, quirk.Count);
   cells.Add("\n Coins \t");
   for (const SheetCoin& coin : content.Coins) cells.Add("\n %s \t %i %s", coin.Name, coin.Count, coin.Sign);
   cells.Add("\n Inventory");

@@ -88,8 +88,8 @@ void AddClasses(Lines& lines, const SheetContent& content) {
 
 void AddSaves(Lines& lines, const CharacterSheet& s) {
   lines.Add("\n %-40s Saving Throws \n", "");
-  lines.Add("Paralyzation: %-5i  Poison: %-5i  Death Magic: %i \n", s.SaveParalyzation[kBestSave], s.SavePoison[kBestSave],
-            s.SaveDeathMagic[kBestSave]);
+  lines.Add("Paralyzation: %-5i  Poison: %-5i  Death Magic: %i \n", s.SaveParalyzation[kBestSave],
+            s.SavePoison[kBestSave], s.SaveDeathMagic[kBestSave]);
   lines.Add("Petrification: %-5i Polymorph: %-5i \n", s.SavePetrification[kBestSave], s.SavePolymorph[kBestSave]);
   // One number serves rods and staves.
   lines.Add("Rod: %-5i           Staff: %-5i   Wand: %-5i \n", s.SaveRod[kBestSave], s.SaveRod[kBestSave],
@@ -126,7 +126,8 @@ void AddMovement(Lines& lines, const CharacterSheet& sheet, const SheetContent& 
   const auto& limits = content.EncumbranceLimits;
   lines.Heading(20, "Movement and Encumbrance");
   lines.Add("Encumbrance (lbs) | Unencumbered |   Light    |  Moderate   |  Heavy   |   Severe  \n");
-  lines.Add("                  |%-14i|%-12i|%-13i|%-10i|%-12i\n", limits[0], limits[1], limits[2], limits[3], limits[4]);
+  lines.Add("                  |%-14i|%-12i|%-13i|%-10i|%-12i\n", limits[0], limits[1], limits[2], limits[3],
+            limits[4]);
   lines.Add("%-18.2f|%-14i|%-12i|%-13i|%-10i|1           \n", sheet.CarriedWeightLbs, sheet.BaseMovement,
             sheet.MovementLight, sheet.MovementModerate, sheet.MovementHeavy);
 }

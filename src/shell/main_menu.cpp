@@ -30,7 +30,7 @@ void Save(Game& game) {
 
 void Load(Game& game) {
   CloseStepThree(game);
-  LeaveRecoveryCopy(game);
+  KeepRecoveryCopy(game);
   if (AskAndLoadCharacter(game)) UpdateMainTitle(game, game.sheet.CharacterName);
 }
 

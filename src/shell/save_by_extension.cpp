@@ -41,7 +41,10 @@ void SaveByExtension(Game& game, const std::string& path) {
 }
 
 bool AskAndSaveCharacter(Game& game) {
-  const auto path = game.platform.AskSavePath("Save", kSaveFilters, FileNamePart(game.sheet.CharacterName));
+  // With the extension: what follows the point in "St. Ada" would be taken for one.
+  std::string name = FileNamePart(game.sheet.CharacterName);
+  if (!name.empty()) name += kSaveFilters[0].Extension;
+  const auto path = game.platform.AskSavePath("Save", kSaveFilters, name);
   if (!path) return false;
   SaveByExtension(game, *path);
   return true;
@@ -50,7 +53,7 @@ bool AskAndSaveCharacter(Game& game) {
 bool AskAndLoadCharacter(Game& game) {
   const auto path = game.platform.AskOpenPath("Load", kLoadFilters);
   if (!path) return false;
-  LoadCharacterFile(game, *path);
+  if (LoadCharacterFile(game, *path)) game.hasRecoveryCopy = false;  // another character has the memory now
   return true;
 }
 

@@ -10,7 +10,7 @@ namespace veld {
 
 int RunVeld(Platform& platform) {
   const bool hasFolder = EnterDataFolder(UserDataFolder(), ShippedDataFolder());
-  const auto game = MakeGame(platform);
+  std::unique_ptr<Game> game;  // made once the window stands: its size takes longer than the window
   MainWindow window;
   window.Title = kProgramTitle;
   window.Menu = MainMenu();
@@ -19,11 +19,14 @@ int RunVeld(Platform& platform) {
       platform.ShowMessage(Format("The data folder %s can not be used. VELD works in the folder it was started in.",
                                   UserDataFolder().string()));
     }
+    game = MakeGame(platform);
     StartUp(*game);
   };
-  window.onCommand = [&](int id) { RunMainCommand(*game, id); };
+  window.onCommand = [&](int id) {
+    if (game) RunMainCommand(*game, id);
+  };
   platform.RunMainWindow(window);
-  KeepRecoveryCopy(*game);
+  if (game) KeepRecoveryCopy(*game);
   return 0;
 }
 

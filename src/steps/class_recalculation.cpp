@@ -452,8 +452,6 @@ void ComputeSaves(Game& game, int classRow) {
 
 void ComputeMovement(Game& game) {
   CharacterSheet& sheet = game.sheet;
-  sheet.BaseMovement = 0;  // as with age and height, a race and gender that the search leaves out has none
-  sheet.MovementRow2 = 0;
   const int row = FindSearchedRaceRow(sheet.RaceName, sheet.Gender);
   if (row < 0) return;
   const RaceRecord& race = RaceTable()[Index(row)];

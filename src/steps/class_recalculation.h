@@ -27,8 +27,8 @@ void AdvanceClassLevels(Game& game, int classRow);
 /// for row 199, whose place holds the best of all classes.
 void ComputeSaves(Game& game, int classRow);
 
-/// Sets movement from race, gender, lost legs and peg legs. It is 0 for a race and gender that the
-/// search leaves out.
+/// Sets movement from race, gender, lost legs and peg legs. A race and gender that the search leaves out keeps what the
+/// choice of the race gave.
 void ComputeMovement(Game& game);
 
 /// Sets the spell slots of the run for a mage's level.

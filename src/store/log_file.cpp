@@ -9,7 +9,8 @@
 
 namespace veld {
 
-int OpenLog(const char* path) { return open(path, O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0666); }
+// Never waits for somebody to read, should the log be a pipe.
+int OpenLog(const char* path) { return open(path, O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC | O_NONBLOCK, 0666); }
 
 void CloseLog(int log) {
   if (log >= 0) close(log);

@@ -11,6 +11,13 @@ namespace {
 constexpr int kFrame = 2;     // the edges on both sides
 constexpr int kPadding = 4;   // a blank on each side of an item's text, and the mark of a submenu
 
+/// The width of a menu with its frame.
+int MenuWidth(const std::vector<MenuItem>& items, int columns) {
+  int width = 8;
+  for (const MenuItem& item : items) width = std::max(width, CellsOf(WithoutMnemonic(item.Text)));
+  return std::min(width + kPadding + kFrame, columns);
+}
+
 /// An open menu: its frame, its rows, the one that is marked.
 class MenuPopup : public Layer {
  public:
@@ -38,9 +45,7 @@ class MenuPopup : public Layer {
 };
 
 void MenuPopup::Draw(bool isActive) {
-  int width = 8;
-  for (const MenuItem& item : items_) width = std::max(width, CellsOf(WithoutMnemonic(item.Text)));
-  width = std::min(width + kPadding + kFrame, screen_.Columns());
+  const int width = MenuWidth(items_, screen_.Columns());
   area_ = {std::max(std::min(wantedX_, screen_.Columns() - width), 0),
            std::max(std::min(wantedY_, screen_.Rows() - 1 - Height()), 0), width, Height()};
   const int shown = area_.Height - kFrame;
@@ -62,7 +67,7 @@ void MenuPopup::Draw(bool isActive) {
   }
   if (!isActive) return;
   screen_.SetCursor(area_.Y + 1 + row_ - first_, area_.X + 2);
-  screen_.ShowKeys("Up/Down: choose  Enter: take  Left/Right: menus  Esc: leave  letter: take what begins so");
+  screen_.ShowKeys("Up/Down choose  Enter take  Left/Right other menus  Esc leave");
 }
 
 void MenuPopup::Move(int rows) {
@@ -105,7 +110,10 @@ std::optional<MenuChoice> MenuPopup::Enter() {
     return std::nullopt;
   }
   if (item.Items.empty()) return MenuChoice{MenuEnd::Chosen, item.Id};
-  const MenuChoice choice = RunMenu(screen_, item.Items, area_.Y + 1 + row_ - first_, area_.Right() - 1);
+  const int width = MenuWidth(item.Items, screen_.Columns());
+  const bool fitsRight = area_.Right() - 1 + width <= screen_.Columns();
+  const int x = fitsRight ? area_.Right() - 1 : area_.X + 1 - width;
+  const MenuChoice choice = RunMenu(screen_, item.Items, area_.Y + row_ - first_, x);
   if (choice.End == MenuEnd::Chosen) return choice;
   return std::nullopt;
 }

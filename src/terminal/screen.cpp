@@ -129,7 +129,7 @@ Key PlainKey(wint_t code) {
     case kEscape: return {KeyKind::Escape};
     default: break;
   }
-  if (code < 0x20 || (code > 0x7F && code < 0xA0)) return {};
+  if (code < 0x20 || (code > 0x7F && code < 0xA0)) return {KeyKind::None, static_cast<char32_t>(code)};
   return {KeyKind::Character, static_cast<char32_t>(code)};
 }
 
@@ -210,7 +210,7 @@ Key Screen::TakeKey() {
 }
 
 Key Screen::ReadKey(int milliseconds) {
-  constexpr wint_t kControlL = 0x0C;
+  constexpr char32_t kControlL = 0x0C;
   for (;;) {
     if (IsLost()) return {};
     if (sizeChanged) FollowSize();
@@ -218,7 +218,7 @@ Key Screen::ReadKey(int milliseconds) {
     if (WaitForInput(milliseconds)) {
       const Key key = TakeKey();
       if (key.Kind != KeyKind::None) return key;
-      if (static_cast<wint_t>(key.Character) == kControlL) clearok(curscr, TRUE);
+      if (key.Character == kControlL) clearok(curscr, TRUE);
     } else if (milliseconds >= 0) {
       return {};
     }

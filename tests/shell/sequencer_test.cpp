@@ -73,8 +73,9 @@ TEST_F(SequencerTest, TheStagesFollowEachOtherToTheSaveQuestion) {
 }
 
 TEST_F(SequencerTest, AnAbortFallsThroughToTheEnd) {
-  const std::pair<const char*, int> kAborts[] = {{"StepSix", 1},  {"StepEight", 0},     {"StepNine", 0},      {"StepTen", 0},
-                                                 {"Skills", 12}, {"StepFourteen", 14}, {"StepEightteen", 15}};
+  const std::pair<const char*, int> kAborts[] = {
+      {"StepSix", 1}, {"StepEight", 0},     {"StepNine", 0},      {"StepTen", 0},
+      {"Skills", 12}, {"StepFourteen", 14}, {"StepEightteen", 15}};
   const auto stages = player.leavesAt;
   for (const auto& [stage, step] : kAborts) {
     SCOPED_TRACE(stage);

@@ -1,0 +1,267 @@
+#include "terminal/terminal_platform.h"
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+#include "terminal/cells.h"
+#include "terminal/menu_popup.h"
+#include "terminal/path_form.h"
+#include "text/utf8.h"
+
+namespace veld {
+
+namespace {
+
+enum : int { kProgressText = 10, kProgressBar = 11, kProgressCancel = 2 };
+constexpr int kProgressWidth = 48;
+
+constexpr ControlTemplate kProgressControls[] = {
+    TextAt(0, 0, kProgressText, "", kProgressWidth, 0),
+    {.Kind = ControlKind::Progress, .Id = kProgressBar, .Row = 1, .Column = 0, .Width = kProgressWidth},
+    ButtonAt(2, 0, kProgressCancel, "&Cancel", ButtonRole::Cancel),
+};
+constexpr FormTemplate kProgressTemplate{"Progress", "VELD", kProgressControls};
+constexpr auto kProgressEvery = std::chrono::milliseconds(25);  // from one look at the keys to the next
+
+constexpr int kMostCloseBoxes = 3;     // presses after which a form that stays open is closed
+constexpr int kMostLeftForms = 10000;  // forms left after the end before their run is broken off
+
+/// Ends a run that goes on opening forms after the terminal was lost.
+struct RunBrokenOff {};
+
+}  // namespace
+
+/// What is behind the pages: the menu bar, the title, and a word on how to begin.
+class TerminalPlatform::Desk : public Layer {
+ public:
+  explicit Desk(Screen& screen) : screen_(screen) {}
+
+  void Draw(bool isActive) override;
+  int MenuX(std::size_t menu) const;
+
+  std::string Title;
+  std::vector<MenuItem> Menu;
+  int OpenMenu = -1;
+
+ private:
+  Screen& screen_;
+};
+
+struct TerminalPlatform::Progress {
+  explicit Progress(Screen& screen) : page(form, screen, FormScreen::Place::Dialog), onTop(screen, page) {}
+
+  Form form{kProgressTemplate};
+  FormScreen page;
+  OnTop onTop;
+  std::chrono::steady_clock::time_point lookedAt = std::chrono::steady_clock::now();
+  bool isCancelled = false;
+};
+
+int TerminalPlatform::Desk::MenuX(std::size_t menu) const {
+  int x = 1;
+  for (std::size_t i = 0; i < menu; ++i) x += CellsOf(WithoutMnemonic(Menu[i].Text)) + 2;
+  return x;
+}
+
+void TerminalPlatform::Desk::Draw(bool isActive) {
+  const int columns = screen_.Columns();
+  screen_.Put(0, 0, {}, columns, Ink::Bar);
+  for (std::size_t i = 0; i < Menu.size(); ++i) {
+    const Ink ink = static_cast<int>(i) == OpenMenu ? Ink::BarFocus : Ink::Bar;
+    const int width = CellsOf(WithoutMnemonic(Menu[i].Text));
+    screen_.Put(0, MenuX(i) - 1, {}, width + 2, ink);
+    screen_.PutMarked(0, MenuX(i), Menu[i].Text, width, ink);
+  }
+  const int menuEnd = MenuX(Menu.size()) + 1;
+  const int width = std::min(CellsOf(Title), std::max(columns - menuEnd - 1, 0));
+  // Of a title that is too long the end is shown: the character's name.
+  screen_.Put(0, columns - 1 - width, Title, width, Ink::Bar, CellsOf(Title) - width);
+  screen_.SetCursor(0, OpenMenu >= 0 ? MenuX(static_cast<std::size_t>(OpenMenu)) : 1);
+  if (!isActive) return;
+  constexpr std::string_view kHint = "File, New Character begins: F10, Enter, Enter.";
+  screen_.Put(screen_.Rows() / 2, (columns - CellsOf(kHint)) / 2, kHint, CellsOf(kHint), Ink::Desk);
+  screen_.ShowKeys("F10 menu  Alt+underlined letter that menu");
+}
+
+TerminalPlatform::TerminalPlatform(Screen& screen) : screen_(screen), desk_(std::make_unique<Desk>(screen)) {
+  screen_.Push(*desk_);
+}
+
+TerminalPlatform::~TerminalPlatform() {
+  screen_.Remove(*desk_);
+}
+
+std::int64_t TerminalPlatform::Now() const {
+  const auto now = std::chrono::system_clock::now().time_since_epoch();
+  return std::chrono::duration_cast<std::chrono::seconds>(now).count();
+}
+
+// --- Forms ---------------------------------------------------------------------------------------------------------
+
+void TerminalPlatform::RunForm(Form& form) {
+  RunPage(form, {});
+}
+
+void TerminalPlatform::RunPage(Form& form, const std::function<bool()>& onTab) {
+  FormScreen page(form, screen_, FormScreen::Place::Dialog);
+  page.onTab = onTab;
+  form.Open();
+  if (form.IsClosed()) return;
+  if (!screen_.IsLost()) {
+    page.FocusFirst();
+    const OnTop onTop(screen_, page);
+    while (!form.IsClosed() && !screen_.IsLost()) page.HandleKey(screen_.ReadKey());
+  }
+  if (!form.IsClosed()) LeaveForm(form);
+}
+
+/// Leaves a form that no player can leave any more.
+void TerminalPlatform::LeaveForm(Form& form) {
+  if (++leftForms_ > kMostLeftForms) throw RunBrokenOff();
+  for (int tries = 0; tries < kMostCloseBoxes && !form.IsClosed(); ++tries) form.PressCloseBox();
+  form.Close();
+}
+
+void TerminalPlatform::ShowWindow(std::shared_ptr<Form> form) {
+  std::string letters;
+  for (const MenuItem& menu : desk_->Menu) letters += static_cast<char>(MarkedLetterOf(menu.Text));
+  auto page = std::make_unique<FormScreen>(*form, screen_, FormScreen::Place::Window, letters);
+  FormScreen& shown = *page;
+  beside_.push_back({form, std::move(page)});
+  form->Open();
+  shown.FocusFirst();
+  screen_.Push(shown);
+}
+
+FormScreen* TerminalPlatform::TopWindow() {
+  for (auto window = beside_.rbegin(); window != beside_.rend(); ++window) {
+    if (!window->Shown->IsClosed()) return window->Page.get();
+  }
+  return nullptr;
+}
+
+/// Windows that have closed go when no handler of theirs can still run.
+void TerminalPlatform::SweepWindows() {
+  std::erase_if(beside_, [&](const Beside& window) {
+    if (!window.Shown->IsClosed()) return false;
+    screen_.Remove(*window.Page);
+    return true;
+  });
+}
+
+// --- The main window -----------------------------------------------------------------------------------------------
+
+void TerminalPlatform::SetMainTitle(std::string_view title) {
+  desk_->Title = DisplayText(title);
+}
+
+void TerminalPlatform::RunMainWindow(const MainWindow& window) {
+  if (desk_->Title.empty()) desk_->Title = window.Title;
+  desk_->Menu = window.Menu;
+  try {
+    screen_.Paint();
+    if (window.onStart) window.onStart();
+    while (!isClosed_ && !screen_.IsLost()) {
+      SweepWindows();
+      HandleMainKey(window, screen_.ReadKey());
+    }
+  } catch (const RunBrokenOff&) {
+    // The character is as far as it got.
+  }
+  for (const Beside& beside : beside_) screen_.Remove(*beside.Page);
+  beside_.clear();
+}
+
+void TerminalPlatform::HandleMainKey(const MainWindow& window, const Key& key) {
+  FormScreen* page = TopWindow();
+  if (key.Kind == KeyKind::MainMenu) return RunMenuBar(window, 0);
+  const bool isLetter = key.Kind == KeyKind::Character && (key.IsAlt || !page);
+  if (isLetter && !(page && page->HasLetter(key.Character))) {
+    for (std::size_t i = 0; i < window.Menu.size(); ++i) {
+      if (MarkedLetterOf(window.Menu[i].Text) == LowerLetter(key.Character)) return RunMenuBar(window, i);
+    }
+  }
+  if (page) {
+    page->HandleKey(key);
+  } else if (key.Kind == KeyKind::Enter || key.Kind == KeyKind::Down) {
+    RunMenuBar(window, 0);
+  }
+}
+
+void TerminalPlatform::RunMenuBar(const MainWindow& window, std::size_t menu) {
+  if (window.Menu.empty()) return;
+  const std::size_t count = window.Menu.size();
+  MenuChoice choice;
+  do {
+    if (choice.End == MenuEnd::Left) menu = (menu + count - 1) % count;
+    if (choice.End == MenuEnd::Right) menu = (menu + 1) % count;
+    desk_->OpenMenu = static_cast<int>(menu);
+    choice = RunMenu(screen_, window.Menu[menu].Items, 1, desk_->MenuX(menu) - 1);
+  } while (choice.End == MenuEnd::Left || choice.End == MenuEnd::Right);
+  desk_->OpenMenu = -1;
+  if (choice.End == MenuEnd::Chosen && window.onCommand) window.onCommand(choice.Id);
+}
+
+// --- Messages, files, progress -------------------------------------------------------------------------------------
+
+void TerminalPlatform::DoShowMessage(const std::string& caption, const std::string& text) {
+  RunMessageForm(*this, caption, text);
+}
+
+Answer TerminalPlatform::DoAskYesNo(const std::string& caption, const std::string& text) {
+  if (screen_.IsLost()) return Answer::Closed;
+  return RunQuestionForm(*this, caption, text);
+}
+
+std::optional<std::string> TerminalPlatform::DoAskOpenPath(const std::string& caption,
+                                                           std::span<const FileFilter> filters) {
+  if (screen_.IsLost()) return std::nullopt;
+  const auto run = [this](Form& form, const std::function<bool()>& onTab) { RunPage(form, onTab); };
+  const auto chosen = RunPathForm(*this, run, caption, filters, {}, false);
+  if (!chosen) return std::nullopt;
+  return chosen->Path;
+}
+
+std::optional<ChosenPath> TerminalPlatform::DoAskSavePath(const std::string& caption,
+                                                          std::span<const FileFilter> filters,
+                                                          const std::string& suggestedName) {
+  if (screen_.IsLost()) return std::nullopt;
+  const auto run = [this](Form& form, const std::function<bool()>& onTab) { RunPage(form, onTab); };
+  return RunPathForm(*this, run, caption, filters, suggestedName, true);
+}
+
+void TerminalPlatform::BeginProgress(std::string_view caption, std::string_view text) {
+  EndProgress();
+  progress_ = std::make_unique<Progress>(screen_);
+  Progress& progress = *progress_;
+  progress.form.SetTitle(caption);
+  progress.form.SetText(kProgressText, text);
+  progress.form.onCommand = [&progress](int) {
+    progress.isCancelled = true;
+    progress.form.SetEnabled(kProgressCancel, false);
+  };
+  progress.form.Open();
+  progress.page.FocusFirst();
+  screen_.Paint();
+}
+
+bool TerminalPlatform::ShowProgress(int percent) {
+  if (screen_.IsLost()) return false;
+  if (!progress_) return true;
+  Progress& progress = *progress_;
+  const auto now = std::chrono::steady_clock::now();
+  if (now - progress.lookedAt >= kProgressEvery) {
+    progress.form.SetNumber(kProgressBar, percent);
+    if (!progress.isCancelled) progress.page.HandleKey(screen_.ReadKey(0));
+    else screen_.Paint();
+    progress.lookedAt = std::chrono::steady_clock::now();
+  }
+  return !progress.isCancelled;
+}
+
+void TerminalPlatform::EndProgress() {
+  progress_.reset();
+}
+
+}  // namespace veld

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "platform/platform.h"
+#include "terminal/form_screen.h"
+#include "terminal/screen.h"
+
+namespace veld {
+
+/// The port at a text terminal. When the terminal is lost, or the program is told to end, every form that is open or
+/// still opened is left by its close box, questions are answered Closed, no path is chosen, and RunMainWindow returns.
+class TerminalPlatform : public Platform {
+ public:
+  explicit TerminalPlatform(Screen& screen);
+  ~TerminalPlatform() override;
+
+  void RunForm(Form& form) override;
+  void ShowWindow(std::shared_ptr<Form> form) override;
+  void RunMainWindow(const MainWindow& window) override;
+  void CloseMainWindow() override { isClosed_ = true; }
+  void SetMainTitle(std::string_view title) override;
+  void BeginProgress(std::string_view caption, std::string_view text) override;
+  bool ShowProgress(int percent) override;
+  void EndProgress() override;
+  std::int64_t Now() const override;
+
+ protected:
+  void DoShowMessage(const std::string& caption, const std::string& text) override;
+  Answer DoAskYesNo(const std::string& caption, const std::string& text) override;
+  std::optional<std::string> DoAskOpenPath(const std::string& caption, std::span<const FileFilter> filters) override;
+  std::optional<ChosenPath> DoAskSavePath(const std::string& caption, std::span<const FileFilter> filters,
+                                          const std::string& suggestedName) override;
+
+ private:
+  class Desk;
+  struct Progress;
+  /// A window beside the main window, with its form.
+  struct Beside {
+    std::shared_ptr<Form> Shown;
+    std::unique_ptr<FormScreen> Page;
+  };
+
+  void RunPage(Form& form, const std::function<bool()>& onTab);
+  void LeaveForm(Form& form);
+  FormScreen* TopWindow();
+  void SweepWindows();
+  void HandleMainKey(const MainWindow& window, const Key& key);
+  void RunMenuBar(const MainWindow& window, std::size_t menu);
+
+  Screen& screen_;
+  std::unique_ptr<Desk> desk_;
+  std::unique_ptr<Progress> progress_;
+  std::vector<Beside> beside_;
+  bool isClosed_ = false;
+  int leftForms_ = 0;  ///< since the terminal was lost
+};
+
+}  // namespace veld

@@ -1,0 +1,225 @@
+// The printed characters: finished ones are kept as files beside the sheets that they print.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+
+#include "rules/class_table.h"
+#include "sheets/html_sheet.h"
+#include "sheets/sheet_content.h"
+#include "sheets/sheet_save.h"
+#include "sheets/tab_sheet.h"
+#include "sheets/text_sheet.h"
+#include "steps/class_recalculation.h"
+#include "store/character_file.h"
+#include "store/side_files.h"
+#include "support/scripted_platform.h"
+#include "text/format.h"
+#include "text/search.h"
+
+namespace veld {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::FileText;
+using testing::ScriptedPlatform;
+using testing::TestFolder;
+
+const std::string kGolden = std::string(VELD_SOURCE_DIR) + "/tests/sheets/golden/";
+
+/// A game whose goods and spells are those that ship.
+std::unique_ptr<Game> ShippedGame(Platform& platform) {
+  static const std::string kGoods = FileText(std::string(VELD_DATA_DIR) + "/equip.vlb");
+  static const std::string kSpells = FileText(std::string(VELD_DATA_DIR) + "/spells.vld");
+  auto game = MakeGame(platform);
+  game->dice.LogMode = DiceLogMode::Off;
+  game->sheet.PlayerName = "Robin";
+  DecodeEquipment(kGoods, game->EquipmentTable);
+  DecodeSpells(kSpells, game->SpellTable);
+  return game;
+}
+
+std::vector<std::string_view> LinesOf(std::string_view text) {
+  std::vector<std::string_view> lines;
+  while (!text.empty()) {
+    const std::size_t end = std::min(text.find('\n'), text.size() - 1) + 1;
+    lines.push_back(text.substr(0, end));
+    text.remove_prefix(end);
+  }
+  return lines;
+}
+
+/// The first line that differs, with what stands before it; empty if nothing does.
+std::string Difference(std::string_view expected, std::string_view actual) {
+  if (expected == actual) return {};
+  const auto wanted = LinesOf(expected);
+  const auto found = LinesOf(actual);
+  const auto [want, got] = std::mismatch(wanted.begin(), wanted.end(), found.begin(), found.end());
+  std::string told = Format("first difference in line %i:\n", want - wanted.begin() + 1);
+  constexpr std::ptrdiff_t kContext = 3;
+  for (auto line = want - std::min(kContext, want - wanted.begin()); line != want; ++line)
+    told += Format("    %s", *line);
+  told += Format("  - %s", want == wanted.end() ? "(the end)\n" : *want);
+  told += Format("  + %s", got == found.end() ? "(the end)\n" : *got);
+  return told;
+}
+
+/// VELD_WRITE_GOLDEN=1 writes the sheets anew; what changed is then read before it is kept.
+void ExpectGolden(const std::string& path, const std::string& actual) {
+  if (std::getenv("VELD_WRITE_GOLDEN")) testing::WriteText(path, actual);
+  ASSERT_TRUE(fs::exists(path)) << path;
+  EXPECT_EQ(Difference(FileText(path), actual), "") << path;
+}
+
+std::vector<std::string> GoldenNames() {
+  std::vector<std::string> names;
+  for (const auto& entry : fs::directory_iterator(kGolden)) {
+    if (entry.path().extension() == ".vlf") names.push_back(entry.path().stem().string());
+  }
+  std::ranges::sort(names);
+  return names;
+}
+
+/// True if all that is opened is closed in turn.
+bool IsWellFormed(std::string_view html) {
+  std::vector<std::string> open;
+  for (std::size_t at = html.find('<'); at != std::string_view::npos; at = html.find('<', at + 1)) {
+    const std::string_view tag = html.substr(at + 1, html.find('>', at) - at - 1);
+    const std::string name(
+        tag.substr(tag.starts_with('/') ? 1 : 0, tag.find_first_of(" >") - (tag.starts_with('/') ? 1 : 0)));
+    if (name == "!DOCTYPE" || name == "meta") continue;
+    if (!tag.starts_with('/')) {
+      open.push_back(name);
+    } else {
+      if (open.empty() || open.back() != name) return false;
+      open.pop_back();
+    }
+  }
+  return open.empty();
+}
+
+class SheetsTest : public ::testing::Test {
+ protected:
+  void Load(const std::string& name) { ASSERT_TRUE(LoadCharacterFile(*game, kGolden + name + ".vlf")) << name; }
+
+  TestFolder folder;
+  ScriptedPlatform platform;
+  std::unique_ptr<Game> game = ShippedGame(platform);
+};
+
+TEST_F(SheetsTest, FinishedCharactersPrintAsTheyWereRead) {
+  const auto names = GoldenNames();
+  EXPECT_GE(names.size(), 12U);
+  for (const std::string& name : names) {
+    SCOPED_TRACE(name);
+    Load(name);
+    const auto loaded = std::make_unique<CharacterSheet>(game->sheet);
+    const std::string html = HtmlSheet(*game);
+    const std::string printed = EncodeCharacter(*game);
+    ExpectGolden(kGolden + name + ".txt", TextSheet(*game));
+    ExpectGolden(kGolden + name + ".csv", TabSheet(*game));
+    ExpectGolden(kGolden + name + ".html", html);
+    EXPECT_TRUE(IsWellFormed(html));
+    EXPECT_EQ(HtmlSheet(*game), html) << "a second sheet is the same";
+    EXPECT_TRUE(EncodeCharacter(*game) == printed) << "printing again changes nothing of the character";
+    for (int ability = 0; ability < kAbilityCount; ++ability) {
+      EXPECT_EQ(AbilityAt(game->sheet, ability), AbilityAt(*loaded, ability)) << AbilityName(ability);
+    }
+  }
+}
+
+TEST_F(SheetsTest, ALevelThatChangesIsOnTheFirstSheetAlready) {
+  platform.AnswerOthers(Answer::Yes);
+  Load("zealot");
+  const int row = FindClassRow(game->sheet.ClassName);
+  ASSERT_GE(row, 99) << "a class whose gains are added on every recalculation";
+  // The experience of the second level: one is lost.
+  game->sheet.ClassExperience[static_cast<std::size_t>(row)] =
+      static_cast<float>(ClassTable()[static_cast<std::size_t>(row)].ExperienceForLevel[2]);
+  const std::string text = TextSheet(*game);
+  EXPECT_TRUE(Contains(text, " lvl: 2 EXP"));
+  EXPECT_EQ(Difference(text, TextSheet(*game)), "");
+}
+
+TEST_F(SheetsTest, EachSheetIsSavedAndToldOrRefusedWhole) {
+  Load("thief");
+  const std::string pick = TextSheet(*game);
+  ASSERT_TRUE(Contains(pick, "Quick Draw: Dagger"));
+  EXPECT_TRUE(SaveTextSheet(*game, "a.txt"));
+  EXPECT_TRUE(platform.Showed("VELD: Character Saved in text format"));
+  EXPECT_EQ(FileText("a.txt"), pick);
+  EXPECT_FALSE(platform.Showed("Weapon With Text"));
+  EXPECT_TRUE(SaveTabSheet(*game, "a.csv"));
+  EXPECT_TRUE(platform.Showed("VELD: Weapon With Text")) << "a box for each pick";
+  EXPECT_TRUE(platform.Showed("VELD: Character Saved in tab-deliminated  format"));
+  EXPECT_TRUE(SaveHtmlSheet(*game, "a.html"));
+
+  const SaveWay full{.DiskRoom = 100, .Flush = false};
+  testing::WriteText("a.csv", "old");
+  EXPECT_FALSE(SaveTextSheet(*game, "none/a.txt"));
+  EXPECT_FALSE(SaveTabSheet(*game, "a.csv", full));
+  EXPECT_FALSE(SaveHtmlSheet(*game, "b.html", full));
+  EXPECT_TRUE(platform.Showed("VELD: Problem creating text file"));
+  EXPECT_TRUE(platform.Showed("VELD: Problem creating csv file"));
+  EXPECT_EQ(FileText("a.csv"), "old");
+  EXPECT_FALSE(fs::exists("b.html"));
+}
+
+TEST_F(SheetsTest, SectionsStandForThoseWhoHaveThem) {
+  ResetCharacter(*game);
+  CharacterSheet& sheet = game->sheet;
+  const auto prints = [&](std::string_view part) { return Contains(TextSheet(*game), part); };
+  EXPECT_FALSE(prints("Quirks and Flaws"));
+  sheet.QuirkCounts[3] = 2;
+  EXPECT_TRUE(prints(" x2\n"));
+
+  sheet.IsClericClass = sheet.UsesClericBackground = 1;
+  EXPECT_TRUE(prints("Package: None \n"));
+  sheet.PackageName = "";
+  EXPECT_FALSE(prints("Package:"));
+
+  sheet.RaceName = "Pixie Fairy";
+  sheet.TattooShewkrin = 5;
+  EXPECT_TRUE(prints("\n>Shewkrin,    Right Lower Arm, +1AC against all missile attacks\n"));
+
+  sheet.ClassLevels[17] = 2;
+  EXPECT_FALSE(prints("Assassin Abilities"));
+  sheet.ClassLevels[17] = 3;
+  EXPECT_TRUE(prints("Assassin Abilities"));
+  EXPECT_FALSE(prints("Thief Abilities"));
+  EXPECT_FALSE(Contains(TabSheet(*game), "Assassin Abilities"));
+
+  // A bow of Mastery has no line among the missile weapons, but it is one of the proficiencies.
+  sheet.ProficiencyLevels[8] = kMasteryMark;
+  EXPECT_FALSE(prints("Bow: Short               |"));
+  EXPECT_TRUE(prints("Bow: Short - Mastery \n"));
+}
+
+TEST_F(SheetsTest, WhatThePlayerTypedBreaksNoLayOut) {
+  game->sheet.CharacterName = "</title>\t<script>&\"'";
+  game->sheet.Notes = "one\n<two>";
+  const std::string html = HtmlSheet(*game);
+  EXPECT_TRUE(IsWellFormed(html));
+  EXPECT_TRUE(Contains(html, "<title>&lt;/title&gt; &lt;script&gt;&amp;&quot;&#39;</title>"));
+  EXPECT_TRUE(Contains(html, "one\n&lt;two&gt;"));
+  EXPECT_TRUE(TabSheet(*game).starts_with("Name \t </title> <script>&\"' \n"));
+
+  game->sheet.Intelligence = {19, 1};
+  EXPECT_TRUE(Contains(HtmlSheet(*game), "<b>1<sup>st</sup>-level</b>")) << "the one effect that is markup";
+  EXPECT_TRUE(Contains(TextSheet(*game), "Ill imm: 1<sup>st</sup>-level spell mishap 0 \n"));
+}
+
+TEST_F(SheetsTest, GoodsOfTheUsersOwnAreNeverHidden) {
+  EquipmentRecord& jar = game->CustomEquipmentTable[0];
+  jar.Name = "Jar of teeth";
+  jar.Category = 3;
+  jar.Weight = 1.5F;
+  jar.Quantity = 4;
+  EXPECT_TRUE(Contains(TextSheet(*game), "Jar of teeth x4 1.50 lbs \n"));
+  EXPECT_TRUE(Contains(TabSheet(*game), "\n Inventory\t Jar of teeth x4 \t 1.50 lbs "));
+  EXPECT_TRUE(Contains(HtmlSheet(*game), "Containers: Packs, Bags, Bottles etc."));
+}
+
+}  // namespace
+}  // namespace veld

@@ -1,0 +1,190 @@
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <clocale>
+#include <fstream>
+#include <iostream>
+#include <set>
+
+#include "dice/dice.h"
+#include "pty_program.h"
+#include "referee/training.h"
+#include "shell/about.h"
+#include "shell/options_dialog.h"
+#include "shell/recover_dialog.h"
+#include "shell/sequencer.h"
+#include "steps/alignment.h"
+#include "steps/allotments.h"
+#include "steps/cherry_pick.h"
+#include "steps/equip.h"
+#include "steps/get_name.h"
+#include "steps/money_bp.h"
+#include "steps/naming.h"
+#include "steps/pick_dialogs.h"
+#include "steps/quirks_and_flaws.h"
+#include "steps/siblings.h"
+#include "steps/skill_setup.h"
+#include "steps/skills.h"
+#include "steps/spell_selection.h"
+#include "steps/step_eight.h"
+#include "steps/step_nine.h"
+#include "steps/step_six.h"
+#include "steps/step_ten.h"
+#include "steps/step_three.h"
+#include "steps/take_after.h"
+#include "steps/talents.h"
+#include "steps/tattoo.h"
+#include "steps/weapon_prof.h"
+#include "store/recovery.h"
+#include "store/side_files.h"
+#include "support/random_player.h"
+#include "support/scripted_platform.h"
+#include "terminal/terminal_platform.h"
+
+namespace veld {
+namespace {
+
+using namespace testing;
+
+/// A dialog of the program, and what must be so for it to open.
+struct Dialog {
+  const char* Title;
+  void (*Run)(Game&);
+};
+
+const Dialog kDialogs[] = {
+    {"Step 6", RunStepSix},
+    {"Siblings", [](Game& game) { game.sheet.SiblingCount = 3; RunSiblings(game); }},
+    {"Quirks and Flaws", RunCherryPick},
+    {"Quirks and Flaws", RunQuirksandFlaws},
+    {"Minor Quirk", RunMinorQuirk},
+    {"Major Quirk", RunMajorQuirk},
+    {"Step 8", RunStepEight},
+    {"Step 9", RunStepNine},
+    {"Thief Abilities", [](Game& game) { game.sheet.ClassLevels[16] = 1; RunAllotment(game, 16); }},
+    {"Bard Abilities", [](Game& game) { game.sheet.ClassLevels[18] = 1; RunAllotment(game, 18); }},
+    {"Bounty Hunter Abilities", [](Game& game) { game.sheet.ClassLevels[60] = 1; RunAllotment(game, 60); }},
+    {"Step 10", RunStepTen},
+    {"Money", [](Game& game) { game.run.BuildingPoints = 5; RunMoneyBP(game); }},
+    {"Skills", RunSkills},
+    {"Talents", RunTalents},
+    {"Weapon Proficiencies", RunWeaponProf},
+    {"Pick your free skill", [](Game& game) { PickOne(game, PickPage::FreeRemote, {"one", "two"}); }},
+    {"Pick your free item", [](Game& game) { PickOne(game, PickPage::FreeWeapon, {"one", "two"}); }},
+    {"Instrument", PickBardInstrument},
+    {"Choose a name", [](Game& game) { AskName(game, "A name"); }},
+    {"Spell Selection", [](Game& game) { game.run.SpellListIndex = 3; RunSpellSellection(game); }},
+    {"Free Spell", [](Game& game) { RunFreeSpellSellection(game, FreeSpellKind::AnyLevel); }},
+    {"Tattoo", [](Game& game) { game.sheet.RaceName = kTattooRace; RunTattoo(game); }},
+    {"Do you wish to take the Take After Talent for 30 BP?",
+     [](Game& game) { game.sheet.RaceName = "Half-elf"; RunTakeAfter(game); }},
+    {"Step 14", RunStepFourteen},
+    {"Step 18: Name your character", RunStepEightteen},
+    {"Step 19", RunEquip},
+    {"Equipment", RunEditEquip},
+    {"RFC - Training Tables", RunTraining},
+    {"VELD Options", RunOptions},
+    {"Recover", [](Game& game) { KeepRecoveryCopy(game); RunRecover(game); }},
+    {"About VELD", RunAbout},
+};
+
+/// A character that has been through a generation, so that every dialog has something to show.
+std::unique_ptr<Game> PlayedGame(Platform& platform) {
+  auto game = MakeGame(platform);
+  game->RuleSwitches.fill(1);
+  game->RuleSwitches[kRollYourOwnDice] = 0;
+  game->dice.LogMode = DiceLogMode::Off;
+  DecodeEquipment(FileText(std::string(VELD_DATA_DIR) + "/equip.vlb"), game->EquipmentTable);
+  DecodeSpells(FileText(std::string(VELD_DATA_DIR) + "/spells.vld"), game->SpellTable);
+  ResetCharacter(*game);
+  game->dice.RandomState = 7;
+  RollAbilityScores(*game);
+  game->sheet.RaceName = "Human";
+  game->sheet.SiblingCount = 2;
+  game->run.BuildingPoints = 40;
+  game->run.CurrentStep = 6;
+  return game;
+}
+
+int RunAtTerminal(const Dialog& dialog) {
+  std::setlocale(LC_ALL, "C.UTF-8");
+  Screen screen;
+  if (!screen.IsOpen()) return 2;
+  TerminalPlatform platform(screen);
+  const auto game = PlayedGame(platform);
+  dialog.Run(*game);
+  return 0;
+}
+
+/// The controls that the keys go to as Tab is pressed, as the places of the cursor; all are in sight.
+std::set<std::pair<int, int>> TabThrough(PtyProgram& program, const std::string& title) {
+  std::set<std::pair<int, int>> places;
+  for (int i = 0; i < 60; ++i) {
+    const std::pair place{program.screen.CursorRow(), program.screen.CursorColumn()};
+    if (!places.insert(place).second && i > 1) break;
+    program.Press(kTabKey);
+    EXPECT_EQ(program.Title(), title) << program.Shows();
+    if (program.Title() != title) break;
+  }
+  return places;
+}
+
+/// Leaves by Escape. A dialog that does not let go yet is played on: what it says Enter does, one control after another.
+void Leave(PtyProgram& program) {
+  for (int tries = 0; tries < 60 && program.IsRunning(); ++tries) {
+    program.Press(kEscapeKey);
+    if (program.IsRunning()) program.Press(kEnterKey);
+    if (program.IsRunning()) program.Press(kTabKey);
+  }
+}
+
+TEST(TerminalDialogsTest, EveryDialogIsOpenedWalkedThroughAndLeftByKeyboardAlone) {
+  TestFolder folder;
+  for (const Dialog& dialog : kDialogs) {
+    SCOPED_TRACE(dialog.Title);
+    PtyProgram program([&] { return RunAtTerminal(dialog); });
+    EXPECT_EQ(program.Title(), dialog.Title) << program.Shows();
+    EXPECT_TRUE(program.KeysLine().find("Esc ") != std::string::npos) << program.Shows();
+    if (std::getenv("VELD_SHOW_PAGES")) std::cout << program.Shows() << '\n';
+    const auto places = TabThrough(program, dialog.Title);
+    EXPECT_GE(places.size(), std::string(dialog.Title) == "About VELD" ? 1U : 2U) << program.Shows();
+    for (const auto& [row, column] : places) EXPECT_LT(row, program.screen.Rows() - 1) << column;
+    Leave(program);
+    EXPECT_EQ(program.WaitForEnd(5), 0) << program.Shows();
+  }
+}
+
+TEST(TerminalDialogsTest, EveryDialogIsLeftWhenTheTerminalIsLost) {
+  TestFolder folder;
+  for (const Dialog& dialog : kDialogs) {
+    SCOPED_TRACE(dialog.Title);
+    PtyProgram program([&] { return RunAtTerminal(dialog); });
+    program.HangUp();
+    EXPECT_EQ(program.WaitForEnd(10), 0);
+  }
+}
+
+TEST(TerminalDialogsTest, LongWorkShowsHowFarItIsAndIsCancelled) {
+  TestFolder folder;
+  const Dialog work{"Work", [](Game& game) {
+                      game.platform.BeginProgress("Work", "It goes on and on.");
+                      int percent = 0;
+                      while (game.platform.ShowProgress(percent)) {
+                        percent = std::min(percent + 1, 50);
+                        usleep(2000);
+                      }
+                      game.platform.EndProgress();
+                      game.platform.ShowMessage("Cancelled.");
+                    }};
+  PtyProgram program([&] { return RunAtTerminal(work); });
+  for (int i = 0; i < 50 && !program.Shows("50%"); ++i) program.Press("");
+  EXPECT_TRUE(program.Shows("It goes on") && program.Shows("50%")) << program.Shows();
+  program.Press(kEscapeKey);
+  EXPECT_TRUE(program.Shows("Cancelled.")) << program.Shows();
+  program.Press(kEnterKey);
+  EXPECT_EQ(program.WaitForEnd(), 0);
+}
+
+}  // namespace
+}  // namespace veld

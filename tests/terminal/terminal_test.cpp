@@ -1,0 +1,365 @@
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cctype>
+#include <clocale>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <map>
+#include <set>
+
+#include "pty_program.h"
+#include "rules/class_table.h"
+#include "store/character_file.h"
+#include "store/recovery.h"
+#include "support/scripted_platform.h"
+#include "terminal/cells.h"
+#include "terminal/field_keys.h"
+#include "text/search.h"
+
+namespace veld {
+namespace {
+
+using namespace testing;
+namespace fs = std::filesystem;
+
+/// A user's data folder with what ships, in a folder of its own.
+class TerminalTest : public ::testing::Test {
+ protected:
+  TerminalTest() : data_(fs::path(folder_.Path()) / "veld") {
+    fs::create_directories(data_);
+    for (const char* name : {"equip.vlb", "spells.vld"}) fs::copy_file(fs::path(VELD_DATA_DIR) / name, data_ / name);
+    setenv("XDG_DATA_HOME", folder_.Path().c_str(), 1);
+  }
+
+  static int RunProgram() {
+    execl(VELD_TERMINAL_PROGRAM, VELD_TERMINAL_PROGRAM, nullptr);
+    return 127;
+  }
+
+  /// Presses Enter on the messages of a first start.
+  static void PassMessages(PtyProgram& program) {
+    for (int i = 0; i < 5 && program.Title() == "VELD"; ++i) program.Press(kEnterKey);
+    ASSERT_TRUE(program.Shows("File, New Character begins")) << program.Shows();
+  }
+
+  TestFolder folder_;
+  fs::path data_;
+};
+
+/// What a person types when dice are asked for: a middling throw. Empty if the prompt names no dice.
+std::string ThrowDice(const std::string& shown) {
+  std::string number;
+  for (std::size_t d = shown.find('d'); d != std::string::npos; d = shown.find('d', d + 1)) {
+    const bool isBetweenDigits = d > 0 && d + 1 < shown.size() && std::isdigit(static_cast<unsigned char>(shown[d - 1])) &&
+                                 std::isdigit(static_cast<unsigned char>(shown[d + 1]));
+    if (!isBetweenDigits) continue;
+    std::size_t begin = d;
+    while (begin > 0 && std::isdigit(static_cast<unsigned char>(shown[begin - 1]))) --begin;
+    const int count = std::atoi(shown.c_str() + begin);
+    const int sides = std::atoi(shown.c_str() + d + 1);
+    return std::to_string(std::max(count * (sides + 1) / 2, 1));
+  }
+  return number;
+}
+
+/// Plays one generation as a person would who knows no more than what stands on the screen: takes the first race, does
+/// what the line of keys says Enter does, and goes on to the next control.
+class Player {
+ public:
+  explicit Player(PtyProgram& program) : program_(program) {}
+
+  std::set<std::string> titles;
+  int typedDice = 0;
+
+  /// Plays until the question whether to save, or until `limit` steps are done.
+  bool PlayToSaveQuestion(int limit) {
+    for (int step = 0; step < limit && program_.IsRunning(); ++step) {
+      const std::string title = program_.Title();
+      if (title.empty()) return false;
+      titles.insert(title);
+      if (title == "Save") return true;
+      Act(title);
+    }
+    return false;
+  }
+
+ private:
+  static constexpr int kListShare = 4;
+  static constexpr int kMostTabs = 30;
+  static constexpr int kEnough = 12;  // of a page that is only closed
+
+  void Act(const std::string& title) {
+    if (title == "Roll Your Own Dice") return Throw();
+    // What Enter did not change, and a list that has had its share, is left for the next control.
+    const std::string seen = Seen();
+    if (++shown_[title] > kEnough && program_.KeysLine().ends_with("Esc Close")) return program_.Press(kEscapeKey);
+    int& visits = visits_[title];
+    const bool isList = program_.KeysLine().find("Up/Down choose") != std::string::npos;
+    if (seenAt_[title] == seen || (isList && ++visits % kListShare == 0)) program_.Press(kTabKey);
+    for (int i = 0; i < kMostTabs && IsWayOut(program_.EnterDoes()); ++i) program_.Press(kTabKey);
+    seenAt_[title] = Seen();
+    if (program_.KeysLine().find("Up/Down choose") != std::string::npos) program_.Press(kDownKey);
+    if (title == "Choose a name" || title.starts_with("Step 18")) TypeName();
+    program_.Press(kEnterKey);
+  }
+
+  std::string Seen() const {
+    return program_.Shows() + std::to_string(program_.screen.CursorRow() * 100 + program_.screen.CursorColumn());
+  }
+
+  static bool IsWayOut(const std::string& enter) {
+    constexpr const char* kWaysOut[] = {"Abort", "Cancel", "Close", "Menu", "Roll again"};
+    return enter.starts_with("<<") || std::ranges::find(kWaysOut, enter) != std::end(kWaysOut);
+  }
+
+  void Throw() {
+    const std::string prompt = program_.Shows();
+    const std::string number = ThrowDice(prompt.substr(std::min(prompt.find("Roll Your Own Dice"), prompt.size())));
+    if (number.empty() || prompt == lastPrompt_) {
+      program_.Press(kEscapeKey);  // Roll For Me
+    } else {
+      program_.Press(number + kEnterKey);
+      ++typedDice;
+    }
+    lastPrompt_ = prompt;
+  }
+
+  void TypeName() {
+    if (program_.EnterDoes() != "OK" || named_) return;
+    program_.Press("Zo\xC3\xAB the Bold");
+    named_ = true;
+  }
+
+  PtyProgram& program_;
+  std::string lastPrompt_;
+  std::map<std::string, std::string> seenAt_;  ///< when Enter was last pressed on the page of that title
+  std::map<std::string, int> visits_;  ///< to lists of that page
+  std::map<std::string, int> shown_;
+  bool named_ = false;
+};
+
+TEST_F(TerminalTest, AWholeGenerationIsPlayedFromNewCharacterToASavedFile) {
+  PtyProgram program(RunProgram);
+  PassMessages(program);
+  program.Press(kMainMenuKey);
+  ASSERT_TRUE(program.Shows("New Character")) << program.Shows();
+  program.Press(kEnterKey);
+  ASSERT_EQ(program.Title(), "Roll Your Own Dice") << program.Shows();
+
+  Player player(program);
+  ASSERT_TRUE(player.PlayToSaveQuestion(1500)) << program.Shows();
+  EXPECT_GE(player.typedDice, 14);  // seven abilities alone have two throws each
+  program.Press("y");
+  ASSERT_EQ(program.Title(), "Save") << program.Shows();
+  ASSERT_TRUE(program.Shows("Quellmarch Files (*.VLF)")) << program.Shows();
+  program.Press(std::string("\x15") + "Zo\xC3\xAB" + kEnterKey);
+  for (int i = 0; i < 5 && !program.Title().empty(); ++i) program.Press(kEnterKey);
+  EXPECT_TRUE(program.Shows("Zo\xC3\xAB the Bold - is in memory")) << program.Shows();
+
+  ScriptedPlatform platform;
+  const auto game = MakeGame(platform);
+  ASSERT_TRUE(LoadCharacterFile(*game, (data_ / "Zo\xC3\xAB.vlf").string())) << program.Shows();
+  EXPECT_EQ(game->sheet.CharacterName.View(), "Zo\xC3\xAB the Bold");
+  EXPECT_NE(game->sheet.RaceName.View(), "Unknown");
+  EXPECT_FALSE(game->sheet.ClassName.Empty());
+  EXPECT_TRUE(Contains(FileText((data_ / "dice.log").string()), "User input"));
+
+  program.Press("\x1B" "fx");  // File, Exit
+  EXPECT_EQ(program.WaitForEnd(), 0);
+  for (const std::string& title : player.titles) std::cout << title << "; ";
+  std::cout << player.typedDice << " throws typed\n";
+  for (const char* title : {"StepThree", "Step 6", "Step 8", "Step 9", "Step 10", "Skills", "Step 14", "Step 19"}) {
+    EXPECT_TRUE(player.titles.contains(title)) << title;
+  }
+}
+
+/// Brings the program to a page of Step 3 with a race chosen, the dice rolled by the program.
+void OpenStepThreeWithRace(PtyProgram& program) {
+  program.Press("\x1B" "f");
+  program.Press("n");
+  ASSERT_EQ(program.Title(), "Roll Your Own Dice") << program.Shows();
+  program.Press("\x1B" "t");
+  ASSERT_EQ(program.Title(), "StepThree") << program.Shows();
+  program.Press(kDownKey);
+}
+
+TEST_F(TerminalTest, EveryCommandOfTheMenusIsReachedByKeyboard) {
+  PtyProgram program(RunProgram);
+  PassMessages(program);
+  const auto opens = [&](std::string_view menuKeys, const char* title) {
+    program.Press(menuKeys.substr(0, 2));
+    program.Press(menuKeys.substr(2));
+    EXPECT_EQ(program.Title(), title) << program.Shows();
+    program.Press(kEscapeKey);
+    EXPECT_EQ(program.Title(), "") << program.Shows();
+  };
+  opens("\x1B" "ha", "About VELD");
+  opens("\x1B" "fs", "Save");
+  opens("\x1B" "fl", "Load");
+  opens("\x1B" "fr", "VELD");  // nothing to recover yet
+
+  program.Press("\x1B" "h");
+  program.Press("o");
+  ASSERT_EQ(program.Title(), "VELD Options") << program.Shows();
+  const int optionBoxes = 12;
+  std::set<int> rows;
+  for (int i = 0; i < optionBoxes + 2; ++i) {  // the boxes, Apply and Close
+    rows.insert(program.screen.CursorRow());
+    program.Press(kTabKey);
+  }
+  EXPECT_EQ(rows.size(), optionBoxes + 1U) << "every box is reached and can be seen";
+  program.Press(kEscapeKey);
+
+  program.Press("\x1B" "h");
+  program.Press("d");  // the dice tester counts, tells, or is cancelled
+  for (int i = 0; i < 10 && !program.Title().empty(); ++i) program.Press(kEscapeKey);
+  EXPECT_EQ(program.Title(), "") << program.Shows();
+
+  OpenStepThreeWithRace(program);
+  EXPECT_TRUE(program.Shows("[Common") || program.Shows("[")) << program.Shows();
+  program.Press(kPageMenuKey);
+  program.Press("e");
+  ASSERT_EQ(program.Title(), "Enter Stats") << program.Shows();
+  program.Press("99" + std::string(kEnterKey));
+  EXPECT_TRUE(program.Shows("between 3 and 18")) << program.Shows();
+  program.Press(kEnterKey);
+  program.Press(kEscapeKey);
+  ASSERT_EQ(program.Title(), "StepThree") << program.Shows();
+  // A submenu of a submenu.
+  program.Press(kPageMenuKey);
+  program.Press("a");
+  program.Press(kDownKey);
+  program.Press(kRightKey);
+  EXPECT_TRUE(program.Shows("Charisma +1")) << program.Shows();
+  program.Press(kEscapeKey, 3);
+  ASSERT_EQ(program.Title(), "StepThree") << program.Shows();
+  program.Press(kMainMenuKey);
+  EXPECT_TRUE(program.Shows("New Character")) << program.Shows();
+  program.Press(kEscapeKey);
+  program.Press(kEscapeKey);
+  EXPECT_EQ(program.Title(), "") << program.Shows();
+}
+
+TEST_F(TerminalTest, FilesAreFoundCompletedAndNotOverwrittenUnasked) {
+  fs::create_directories(data_ / "heroes");
+  std::ofstream(data_ / "heroes" / "notes.txt") << "kept";
+  std::ofstream(data_ / "heroes" / "old.vlf") << "not a character";
+  PtyProgram program(RunProgram);
+  PassMessages(program);
+  program.Press("\x1B" "f");
+  program.Press("l");
+  program.Press("he");
+  program.Press(kTabKey);
+  EXPECT_TRUE(program.Shows("[heroes/_")) << program.Shows();
+  program.Press("o");
+  program.Press(kTabKey);
+  EXPECT_TRUE(program.Shows("[heroes/old.vlf_")) << program.Shows();
+  program.Press("\x15");
+  program.Press("none" + std::string(kEnterKey));
+  EXPECT_TRUE(program.Shows("There is no file")) << program.Shows();
+  program.Press(kEnterKey);
+  program.Press("\x15" "heroes" + std::string(kEnterKey));
+  EXPECT_TRUE(program.Shows("old.vlf")) << program.Shows();
+  EXPECT_FALSE(program.Shows("notes.txt")) << "of another type: " << program.Shows();
+  program.Press(kEscapeKey);
+
+  program.Press("\x1B" "f");
+  program.Press("s");
+  program.Press("\x15heroes/notes.txt" + std::string(kEnterKey));
+  ASSERT_TRUE(program.Shows("is there already")) << program.Shows();
+  program.Press("n");
+  EXPECT_EQ(program.Title(), "Save");
+  program.Press(kEscapeKey);
+  EXPECT_EQ(program.Title(), "");
+  EXPECT_EQ(FileText((data_ / "heroes" / "notes.txt").string()), "kept");
+}
+
+TEST_F(TerminalTest, AResizedTerminalIsDrawnAnewAndASmallOneScrolls) {
+  PtyProgram program(RunProgram);
+  PassMessages(program);
+  program.Press("\x1B" "h");
+  program.Press("o");
+  ASSERT_TRUE(program.Shows("< Close >")) << program.Shows();
+  program.Resize(12, 60);
+  EXPECT_EQ(program.Title(), "VELD Options") << program.Shows();
+  EXPECT_FALSE(program.Shows("Hexwright")) << program.Shows();
+  for (int i = 0; i < 3 && !program.Shows("Hexwright"); ++i) program.Press(kTabKey);
+  EXPECT_TRUE(program.Shows("Hexwright")) << "what the keys go to is in sight: " << program.Shows();
+  program.Resize(30, 100);
+  EXPECT_TRUE(program.Shows("Hexwright") && program.Shows("< Close >")) << program.Shows();
+}
+
+/// Ends the program amid a generation, by what `end` does, and expects the character among the recovery copies.
+template <typename End>
+void ExpectRecoveryAfter(const fs::path& data, int (*run)(), End end) {
+  PtyProgram program(run);
+  for (int i = 0; i < 5 && program.Title() == "VELD"; ++i) program.Press(kEnterKey);
+  OpenStepThreeWithRace(program);
+  program.Press("\x1B" "o");
+  ASSERT_EQ(program.Title(), "Step 6") << program.Shows();
+  fs::remove(data / "autosave.vlf");
+  end(program);
+  EXPECT_EQ(program.WaitForEnd(), 0);
+  ScriptedPlatform platform;
+  const auto game = MakeGame(platform);
+  EXPECT_TRUE(LoadCharacterFile(*game, (data / "autosave.vlf").string()));
+  EXPECT_NE(game->sheet.RaceName.View(), "Unknown");
+}
+
+TEST_F(TerminalTest, AnInterruptEndsAsExitDoes) {
+  ExpectRecoveryAfter(data_, RunProgram, [](PtyProgram& program) { program.Press("\x03"); });
+}
+
+TEST_F(TerminalTest, ARequestToEndEndsAsExitDoes) {
+  ExpectRecoveryAfter(data_, RunProgram, [](PtyProgram& program) { program.Signal(SIGTERM); });
+}
+
+TEST_F(TerminalTest, ALostTerminalEndsAsExitDoes) {
+  ExpectRecoveryAfter(data_, RunProgram, [](PtyProgram& program) { program.HangUp(); });
+}
+
+TEST(FieldKeysTest, EditsHoldToTheirBytesAndMoveByCharacters) {
+  TypedText typed;
+  const auto type = [&](char32_t c, int limit) { return ApplyFieldKey(typed, {KeyKind::Character, c}, limit); };
+  EXPECT_EQ(type(U'Z', 4), FieldKey::Typed);
+  EXPECT_EQ(type(U'ë', 4), FieldKey::Typed);
+  EXPECT_EQ(type(U'ë', 4), FieldKey::Refused);  // would be the fifth byte
+  EXPECT_EQ(type(U'o', 4), FieldKey::Typed);
+  EXPECT_EQ(typed.Text, "Z\xC3\xABo");
+  ApplyFieldKey(typed, {KeyKind::Left}, 4);
+  ApplyFieldKey(typed, {KeyKind::Backspace}, 4);
+  EXPECT_EQ(typed.Text, "Zo");
+  EXPECT_EQ(typed.Cursor, 1U);
+  typed.IsChosen = true;
+  EXPECT_EQ(type(U'X', 1), FieldKey::Typed) << "all that was marked makes room";
+  EXPECT_EQ(typed.Text, "X");
+}
+
+TEST(FieldKeysTest, SeveralLinesBreakAtBlanksAndTheCursorKeepsItsCell) {
+  TypedText typed{"one two three\nfour", 0};
+  const std::vector<TextLine> lines = BreakIntoLines(typed.Text, 8);
+  ASSERT_EQ(lines.size(), 3U);
+  EXPECT_EQ(typed.Text.substr(lines[1].Begin, lines[1].End - lines[1].Begin), "three");
+  typed.Cursor = 3;
+  ApplyMultiLineKey(typed, {KeyKind::Down}, 0, 8);
+  EXPECT_EQ(typed.Cursor, lines[1].Begin + 3);
+  ApplyMultiLineKey(typed, {KeyKind::Down}, 0, 8);
+  ApplyMultiLineKey(typed, {KeyKind::Enter}, 0, 8);
+  EXPECT_EQ(typed.Text, "one two three\nfou\nr");
+}
+
+TEST(CellsTest, WideLettersAndAccentsTakeTheirOwnCells) {
+  std::setlocale(LC_CTYPE, "C.UTF-8");
+  EXPECT_EQ(CellsOf("e\xCC\x81"), 1);          // e and an accent that joins it
+  EXPECT_EQ(CellsFrom("abc", 1, 4), U"bc  ");
+  EXPECT_EQ(CellsFrom("abcdef", 0, 4, true), U"abc>");
+  EXPECT_EQ(CellsFrom("a\tb", 0, 3), U"a b");
+}
+
+}  // namespace
+}  // namespace veld
