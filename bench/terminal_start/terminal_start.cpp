@@ -101,9 +101,9 @@ int main(int argc, char** argv) {
   for (int i = 0; i < kKeys; ++i) keys.emplace_back("\x1BOB");
   std::vector<double> starts;
   std::vector<double> answers;
-  for (int round = -3; round < rounds; ++round) {  // the first ones warm the caches and write the options
+  for (int round = -3; round < rounds; ++round) {  // the first ones warm the caches and see the messages of a first start
     Sample veld;
-    if (!Measure(VELD_TERMINAL_PROGRAM, "Toolkit", keys, veld)) {
+    if (!Measure(VELD_TERMINAL_PROGRAM, "Toolkit", keys, veld) && round >= 0) {
       std::fprintf(stderr, "A screen did not come up.\n");
       return EXIT_FAILURE;
     }

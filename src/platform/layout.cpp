@@ -238,6 +238,17 @@ int NaturalWidth(const Page& page, const Cell& cell) {
   return width;
 }
 
+/// What a place keeps on a narrow page: of several controls, all of those that can not shrink and a little of the others.
+int LeastWidth(const Page& page, const Cell& cell) {
+  if (cell.Controls.size() == 1) return 0;
+  int width = static_cast<int>(cell.Controls.size() - 1) * page.metrics.ControlGap;
+  for (const std::size_t control : cell.Controls) {
+    const int natural = NaturalWidth(page, control);
+    width += Shrinks(page.KindOf(control)) ? std::min(natural, kLeastCharacters * page.metrics.Character) : natural;
+  }
+  return width;
+}
+
 /// From the left edge of the first column of the span to the right edge of its last.
 int SpanWidth(const Page& page, const Cell& cell) {
   int width = 0;
@@ -270,7 +281,7 @@ void MeasureColumns(Page& page) {
     if (cell.ColumnSpan > 1) spanning.push_back(&cell);
     if (cell.ColumnSpan > 1 && cell.IsFree) continue;
     column.Width = std::max(column.Width, width);
-    if (!shrinks) column.Least = std::max(column.Least, width);
+    column.Least = std::max(column.Least, shrinks ? LeastWidth(page, cell) : width);
   }
   std::ranges::stable_sort(spanning, {}, [](const Cell* cell) { return cell->ColumnSpan; });
   for (const Cell* cell : spanning) {
@@ -285,16 +296,19 @@ int ContentWidth(const Page& page) {
 }
 
 /// Shares out `extra` width among the columns of lists and texts; if it is negative, takes it from all that can do with
-/// less.
+/// less, and what one column can not give from the others.
 void StretchColumns(Page& page, int extra) {
   bool Column::*const takesPart = extra > 0 ? &Column::CanStretch : &Column::CanShrink;
-  auto columns = std::ranges::count_if(page.columns, takesPart);
-  for (Column& column : page.columns) {
-    if (!(column.*takesPart)) continue;
-    const int share = extra / static_cast<int>(columns--);
-    const int width = std::max(column.Width + share, std::min(column.Width, column.Least));
-    extra -= width - column.Width;
-    column.Width = width;
+  for (int before = 0; extra != 0 && extra != before;) {
+    before = extra;
+    auto columns = std::ranges::count_if(page.columns, takesPart);
+    for (Column& column : page.columns) {
+      if (!(column.*takesPart)) continue;
+      const int share = extra / static_cast<int>(columns--);
+      const int width = std::max(column.Width + share, std::min(column.Width, column.Least));
+      extra -= width - column.Width;
+      column.Width = width;
+    }
   }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <string_view>
 
 namespace veld {
@@ -15,6 +16,10 @@ struct AbilityScore {
 
   friend bool operator==(const AbilityScore&, const AbilityScore&) = default;
 };
+
+/// How dialogs and the skill list write the abilities.
+inline constexpr std::array<std::string_view, kAbilityCount> kAbilityShortNames = {"STR", "DEX", "CON", "INT",
+                                                                                   "WIS", "CHA", "COM"};
 
 /// The name of an ability ("Strength"), or an empty text for a number that is none.
 std::string_view AbilityName(int ability);

@@ -1,7 +1,6 @@
 #include "rules/skill_prices.h"
 
 #include <cstddef>
-#include <iterator>
 
 #include "rules/skill_table.h"
 #include "text/format.h"
@@ -301,10 +300,9 @@ ExtraRolls SkillFamilyExtraRolls(int family, const SkillBuyer& buyer) {
 }
 
 int StartingMastery(std::string_view masteryAbilities, std::span<const int, kAbilityCount> wholeScores) {
-  constexpr std::string_view kAbbreviations[] = {"STR", "DEX", "CON", "INT", "WIS", "CHA", "COM"};
   int sum = 0;
-  for (std::size_t ability = 0; ability < std::size(kAbbreviations); ++ability) {
-    if (Contains(masteryAbilities, kAbbreviations[ability])) sum += wholeScores[ability];
+  for (std::size_t ability = 0; ability < kAbilityShortNames.size(); ++ability) {
+    if (Contains(masteryAbilities, kAbilityShortNames[ability])) sum += wholeScores[ability];
   }
   if (Contains(masteryAbilities, "2")) sum /= 2;
   if (Contains(masteryAbilities, "3")) sum /= 3;

@@ -7,6 +7,7 @@
 #include "rules/skill_table.h"
 #include "steps/buy_skill.h"
 #include "steps/proficiency_purchase.h"
+#include "steps/skill_target.h"
 #include "text/numbers.h"
 #include "text/search.h"
 
@@ -107,7 +108,7 @@ bool HoldsMember(const CharacterSheet& sheet, int family, std::size_t slot) {
 
 /// Tells it when the proficiency slots are out.
 bool AreSlotsOut(Game& game) {
-  if (game.sheet.ProficiencySlotsUsed < game.sheet.ProficiencySlots) return false;
+  if (!ProficiencySlotsAreOut(game)) return false;
   game.platform.ShowMessage("You are out of proficiency slots");
   return true;
 }
@@ -189,9 +190,7 @@ void PickReadingWriting(Game& game) {
 }
 
 int* LastDetailMastery(Game& game, int family) {
-  const int slot = game.run.LastSkillDetail;
-  if (family < 0 || family >= kSkillTable2Rows || slot < 0 || slot >= static_cast<int>(kDetailRows)) return nullptr;
-  return &game.sheet.SkillDetailCounts[Index(family)][Index(slot)];
+  return MemberMastery(game.sheet, family, game.run.LastSkillDetail);
 }
 
 void PickBardInstrument(Game& game) {

@@ -37,9 +37,9 @@ const PirateTrade& TradeOf(int roll) {
   return kTrades[std::size(kTrades) - 1];
 }
 
+/// The gain is the pirate's whatever becomes of the purchase.
 void TakeTrade(Game& game, const PirateTrade& trade) {
-  const float price = PriceOf(game, FindTarget(game.sheet, trade.Skill));
-  if (!BuySkill(game, {.Name = std::string(trade.Skill), .Price = price})) return;
+  BuySkill(game, {.Name = std::string(trade.Skill), .Price = PriceOf(game, FindTarget(game.sheet, trade.Skill))});
   ForEachName(trade.Raised, [&](std::string_view name) {
     const int row = FindSkillRow(name);
     if (row < 0) return;

@@ -33,7 +33,6 @@ std::string_view WeaponAbilityName(int row) { return TrimRight(WeaponAbilityAt(r
 int LevelOf(const Game& game, int row) { return game.sheet.ProficiencyLevels[At(row)]; }
 bool IsHeld(int level) { return level >= ProficiencyMark::Proficient || level == ProficiencyMark::Limited; }
 
-bool SlotsAreOut(const Game& game) { return game.sheet.ProficiencySlotsUsed >= game.sheet.ProficiencySlots; }
 bool HasLevelIn(const Game& game, std::size_t classRow) { return game.sheet.ClassLevels[classRow] > 0; }
 
 /// A row of which more than one step is a matter of taking it again.
@@ -113,7 +112,7 @@ std::string ObstacleToRemoveAbility(const Game& game, const ProficiencyPlace& pl
   const auto& picks = game.sheet.ProficiencyPicks[At(place.Ability)];
   if (place.Row < 0 || std::ranges::find(picks, place.Row) == picks.end()) return "You do not have it.";
   if (game.run.BuildingPoints <= 0) return "Giving it up costs 1 BP, and you have none.";
-  return SlotsAreOut(game) ? "Giving it up costs 1 slot, and you have none." : "";
+  return ProficiencySlotsAreOut(game) ? "Giving it up costs 1 slot, and you have none." : "";
 }
 
 bool AddAbility(Game& game, int ability) {
@@ -157,7 +156,7 @@ std::string ProficiencyObstacle(const Game& game, const ProficiencyPlace& place,
   }
   std::string own = isAbility ? ObstacleToAddAbility(game, place.Ability) : ObstacleToAddWeapon(game, place.Row);
   if (!own.empty()) return own;
-  if (SlotsAreOut(game)) return SlotsOutText(game);
+  if (ProficiencySlotsAreOut(game)) return SlotsOutText(game);
   if (game.run.BuildingPoints <= 0 && game.sheet.IsFighterClass == 0) return "It costs 1 BP, and you have none.";
   return {};
 }
@@ -197,7 +196,7 @@ std::string SpecializationObstacle(const Game& game, int row, int direction) {
   }
   if (game.sheet.FreeWeaponProficiencySlots <= 0) return "You have no step of Specialization to take.";
   if (HasLevelIn(game, kKnightErrant)) return {};
-  if (SlotsAreOut(game)) return SlotsOutText(game);
+  if (ProficiencySlotsAreOut(game)) return SlotsOutText(game);
   if (game.run.BuildingPoints <= 0 || static_cast<float>(cost) > game.run.BuildingPoints) {
     return Format("Specialization costs %i BP and you have %g.", cost, game.run.BuildingPoints);
   }
@@ -230,7 +229,7 @@ std::string MasteryObstacle(const Game& game, int row, int direction) {
     return direction < 0 ? "You are no master of it." : "Mastery needs Specialization.";
   }
   if (direction < 0) return {};
-  if (SlotsAreOut(game)) return SlotsOutText(game);
+  if (ProficiencySlotsAreOut(game)) return SlotsOutText(game);
   if (game.sheet.ClassLevels[kFighter] < kMasteryLevel) return "Mastery needs the 5th level as a Fighter.";
   return {};
 }
@@ -321,6 +320,10 @@ int SpecializationPrice(const Game& game, int row) {
 
 int ProficiencySlotCost(const Game& game, int row) {
   return HasLevelIn(game, kGladiator) && WeaponAt(row).Kind == ProficiencyKind::Missile ? 2 : 1;
+}
+
+bool ProficiencySlotsAreOut(const Game& game) {
+  return game.sheet.ProficiencySlotsUsed >= game.sheet.ProficiencySlots;
 }
 
 bool IsNextProficiencyFree(const Game& game) {

@@ -77,6 +77,9 @@ int SpecializationPrice(const Game& game, int row);
 /// Slots that a step of a weapon or style takes.
 int ProficiencySlotCost(const Game& game, int row);
 
+/// True if every proficiency slot is used.
+bool ProficiencySlotsAreOut(const Game& game);
+
 /// True if the next proficiency costs no BP: the first of a fighter.
 bool IsNextProficiencyFree(const Game& game);
 

@@ -19,7 +19,6 @@ namespace veld {
 namespace {
 
 constexpr int kSetupBP = 100;
-constexpr int kFreeOfRace = -1;  // a talent that the race has for nothing
 
 std::size_t Index(int number) {
   return static_cast<std::size_t>(number);
@@ -85,8 +84,8 @@ void GrantPick(Game& game, const ClassGrant& grant) {
 void GrantTalent(Game& game, const ClassGrant& grant) {
   if (grant.Row < 0 || grant.Row >= static_cast<int>(kTalentRows)) return;
   int& count = game.sheet.TalentCounts[Index(grant.Row)];
-  const bool isOfRace = ValueAt(MakeSkillBuyer(game).TalentFlags, grant.Row) == kFreeOfRace;
-  if (!isOfRace && count != kFreeOfRace) count = 1;
+  const bool isOfRace = ValueAt(MakeSkillBuyer(game).TalentFlags, grant.Row) == kTalentOfRace;
+  if (!isOfRace && count != kTalentOfRace) count = 1;
 }
 
 /// What stands after "family: ".

@@ -4,6 +4,7 @@
 
 #include "rules/skill_table.h"
 #include "steps/pick_dialogs.h"
+#include "steps/skill_target.h"
 #include "text/numbers.h"
 
 namespace veld {
@@ -23,12 +24,6 @@ int& RememberedSlot(CharacterSheet& sheet, int row, std::size_t member) {
   return sheet.SkillGroupTable.at(Index(SuiteCode(row))).at(member);
 }
 
-/// The mastery of a family's member in a slot; null if there is no such slot.
-int* MemberMastery(CharacterSheet& sheet, int family, int slot) {
-  if (slot < 0 || slot >= static_cast<int>(kDetailRows)) return nullptr;
-  return &sheet.SkillDetailCounts.at(Index(family))[Index(slot)];
-}
-
 /// The pick is a purchase of its own: its dice must not be taken for the suite's.
 void PickMember(Game& game, int family) {
   const std::string context = std::exchange(game.dice.RollContextText, {});
@@ -45,7 +40,7 @@ void StartSuite(Game& game, int row, int mastery) {
     if (IsFamilyLink(link)) {
       PickMember(game, -link);
       RememberedSlot(game.sheet, row, member) = game.run.LastSkillDetail;
-      int* const held = MemberMastery(game.sheet, -link, game.run.LastSkillDetail);
+      int* const held = LastDetailMastery(game, -link);
       if (held && *held == 0) *held = mastery;
     } else if (link >= 0) {
       int& held = game.sheet.SkillScores.at(Index(link));

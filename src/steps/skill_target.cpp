@@ -49,6 +49,11 @@ int& PurchasesOf(CharacterSheet& sheet, const SkillTarget& target) {
   return sheet.SkillDetailPurchases.at(Index(target.Row)).at(Index(target.Slot));
 }
 
+int* MemberMastery(CharacterSheet& sheet, int family, int slot) {
+  if (family < 0 || family >= kSkillTable2Rows || slot < 0 || slot >= static_cast<int>(kDetailRows)) return nullptr;
+  return &sheet.SkillDetailCounts[Index(family)][Index(slot)];
+}
+
 float PriceOf(const Game& game, const SkillTarget& target) {
   if (target.Kind == SkillKind::None) return 0;
   const SkillBuyer buyer = MakeSkillBuyer(game);

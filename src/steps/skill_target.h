@@ -29,6 +29,9 @@ int Mastery(const CharacterSheet& sheet, const SkillTarget& target);
 int& MasteryOf(CharacterSheet& sheet, const SkillTarget& target);
 int& PurchasesOf(CharacterSheet& sheet, const SkillTarget& target);
 
+/// Where the mastery of the member in a family's slot stands; null if there is no such family or slot.
+int* MemberMastery(CharacterSheet& sheet, int family, int slot);
+
 /// The price of one purchase in BP.
 float PriceOf(const Game& game, const SkillTarget& target);
 

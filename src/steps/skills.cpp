@@ -186,11 +186,10 @@ void ShowSummary(const Game& game, Form& form) {
 }
 
 void ShowAbilities(const Game& game, Form& form) {
-  constexpr std::string_view kNames[] = {"STR", "DEX", "CON", "INT", "WIS", "CHA", "COM"};
   for (int ability = 0; ability < kAbilityCount; ++ability) {
     const AbilityScore& score = AbilityAt(game.sheet, ability);
-    form.SetText(kFirstAbility + ability,
-                 Format("%s %i/%i", kNames[static_cast<std::size_t>(ability)], score.Whole, score.Percentile));
+    form.SetText(kFirstAbility + ability, Format("%s %i/%i", kAbilityShortNames[static_cast<std::size_t>(ability)],
+                                                 score.Whole, score.Percentile));
   }
 }
 

@@ -14,8 +14,6 @@ namespace veld {
 
 namespace {
 
-constexpr int kGivenByRace = -1;  ///< count of a talent that the race has for nothing
-
 // The rows of the second table and the items of each, as the sheet holds them.
 constexpr int kFamilies = static_cast<int>(kDetailRows);
 constexpr int kItems = static_cast<int>(kDetailRows);
@@ -35,7 +33,7 @@ std::string_view ItemName(const Game& game, const TalentPlace& place) {
 
 bool CanBeTakenAgain(std::string_view name) { return Contains(name, "Bonus"); }
 bool IsGivenByRace(const Game& game, const TalentPlace& place) {
-  return place.Row >= 0 && TalentCount(game, place) == kGivenByRace;
+  return place.Row >= 0 && TalentCount(game, place) == kTalentOfRace;
 }
 
 /// Calls `visit` with each item that is held and has a name; it returns false to end the walk.
@@ -198,7 +196,7 @@ bool GrantTalentItem(Game& game, int family, std::string_view item) {
 }
 
 void GrantRaceTalents(Game& game) {
-  for (const int row : TalentsOfRace(MakeSkillBuyer(game))) game.sheet.TalentCounts[At(row)] = kGivenByRace;
+  for (const int row : TalentsOfRace(MakeSkillBuyer(game))) game.sheet.TalentCounts[At(row)] = kTalentOfRace;
 }
 
 std::vector<TalentLine> TalentsOffered(const Game& game) {

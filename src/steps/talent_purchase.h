@@ -9,6 +9,9 @@
 
 namespace veld {
 
+/// The count of a talent that the race has for nothing.
+inline constexpr int kTalentOfRace = -1;
+
 /// A talent by its place on the sheet: a row of the plain talents, or an item of a family of the second table.
 struct TalentPlace {
   int Row = -1;     ///< of the plain talents

@@ -33,9 +33,6 @@ constexpr PlaceButton kPlaceButtons[] = {
 constexpr std::array<std::string_view, 7> kPlaceNames = {
     "", "Forehead", "Left Upper Arm", "Right Upper Arm", "Left Lower Arm", "Right Lower Arm", "Both Lower Arms"};
 
-constexpr std::array<std::string_view, kAbilityCount> kAbilityShortNames = {"STR", "DEX", "CON", "INT",
-                                                                            "WIS", "CHA", "COM"};
-
 // clang-format off
 
 using Sheet = CharacterSheet;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "rules/skills_tsv.h"
 #include "store/byte_reader.h"
 #include "store/byte_writer.h"
 #include "store/file_layout.h"
@@ -15,6 +16,7 @@ constexpr char kOptionsPath[] = "options.vlb";
 constexpr char kEquipmentPath[] = "equip.vlb";
 constexpr char kCustomEquipmentPath[] = "cequip.vlb";
 constexpr char kSpellPath[] = "spells.vld";
+constexpr char kSkillSheetPath[] = "skills.tsv";
 
 bool Tell(Game& game, std::string_view problem) {
   game.platform.ShowMessage(problem);
@@ -165,6 +167,10 @@ bool SaveCustomEquipment(Game& game, SaveWay way) {
   return (KeepShortCustomEquipment(way) &&
           SaveWholeFile(kCustomEquipmentPath, EncodeEquipment(game.CustomEquipmentTable), way)) ||
          Tell(game, "Problem Loading cequip.vlb file");
+}
+
+bool ExportSkills(SaveWay way) {
+  return SaveWholeFile(kSkillSheetPath, SkillsTsv(), way);
 }
 
 bool LoadSpells(Game& game) {

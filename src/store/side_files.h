@@ -26,6 +26,9 @@ bool SaveCustomEquipment(Game& game, SaveWay way = {});
 /// Empties the spell table and fills it from spells.vld. The character knows no spell afterwards.
 bool LoadSpells(Game& game);
 
+/// Writes skills.tsv, the skill tables as a sheet. A failure is told to nobody.
+bool ExportSkills(SaveWay way = {});
+
 using RuleSwitchArray = std::array<int, kRuleSwitches>;
 using EquipmentArray = std::array<EquipmentRecord, kEquipmentRows>;
 using SpellArray = std::array<SpellRecord, kSpellRows>;

@@ -134,6 +134,11 @@ void FormScreen::Draw(bool isActive) {
   if (page_.Page.Height > view_.Height) {
     screen_.ScrollBar(view_.Y, frame_.Right() - 1, view_.Height, scrollY_, page_.Page.Height, Ink::Paper);
   }
+  // A page that is too wide follows what the keys go to; its edge says that there is more.
+  if (scrollX_ > 0) screen_.Put(frame_.Bottom() - 1, frame_.X + 2, " < more ", 8, Ink::Paper);
+  if (scrollX_ + view_.Width < page_.Page.Width) {
+    screen_.Put(frame_.Bottom() - 1, frame_.Right() - 10, " more > ", 8, Ink::Paper);
+  }
   screen_.SetClip(view_);
   for (const PlacedControl& placed : page_.Controls) DrawControl(placed);
   if (!form_.contextMenu.empty()) DrawCorner();
@@ -191,7 +196,7 @@ void FormScreen::DrawEdit(const PlacedControl& placed, bool isFocus) {
   view.Cursor = std::min(view.Cursor, control.Text.size());
   const int x = ScreenX(placed.Area.X);
   const int y = ScreenY(placed.Area.Y);
-  const int width = placed.Area.Width - metrics_.EditPadding;
+  const int width = std::max(placed.Area.Width - metrics_.EditPadding, 1);
   const int cursor = CellsOf(std::string_view(control.Text).substr(0, view.Cursor));
   view.Left = std::clamp(view.Left, std::max(cursor - width + 1, 0), cursor);
   const Ink edge = control.Enabled ? Ink::Paper : Ink::Faint;
@@ -213,7 +218,7 @@ void FormScreen::DrawMultiLine(const PlacedControl& placed, bool isFocus) {
   const int width = std::max(area.Width - metrics_.ListPadding, 1);
   const std::vector<TextLine> lines = BreakIntoLines(control.Text, width);
   const int cursorLine = static_cast<int>(LineOf(lines, view.Cursor));
-  view.First = std::clamp(view.First, cursorLine - placed.Lines + 1, cursorLine);
+  view.First = std::clamp(view.First, cursorLine - std::max(placed.Lines, 1) + 1, cursorLine);
   const int total = static_cast<int>(lines.size());
   const int x = ScreenX(area.X);
   for (int line = 0; line < placed.Lines; ++line) {
@@ -338,7 +343,7 @@ std::string FormScreen::KeysLine() const {
   if (IsMark(kind)) add("Space mark");
   if (kind == ControlKind::Text) add("Up/Down scroll");
   if (page_.Page.Height > view_.Height && kind != ControlKind::List) add("PgUp/PgDn scroll");
-  add("Tab next  Alt+letter");
+  add("Tab  Alt+letter");
   std::string enter;
   std::string escape = "close";
   for (const Control& control : form_.Controls()) {

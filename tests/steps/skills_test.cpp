@@ -461,6 +461,18 @@ TEST_F(SkillsTest, APiratesTradeCanBeRolledAgainAndIsPaidFromTheSetup) {
   EXPECT_EQ(game->run.BuildingPoints, 50);
 }
 
+TEST_F(SkillsTest, APirateWhoRollsTooOftenLearnsTheTradeUntaught) {
+  game->sheet.ClassName = "Pirate (WMA)";
+  player.thrower = [&](int sides, int) { return sides == 100 ? 50 : kDieResult; };
+  for (int rolls = 0; rolls < 90; ++rolls) player.ExpectQuestion("Keep your result of Sailor Skill Suite?", Answer::No);
+  player.ExpectQuestion("Keep your result of Sailor Skill Suite?", Answer::Yes);
+  RunSkillSetup(*game);
+  EXPECT_TRUE(player.Showed("The Skill: Sailor Skill Suite requires 11 BP to purchase, you only have 10 BP."));
+  EXPECT_EQ(Score("Sailor Skill Suite"), 70);
+  EXPECT_EQ(Score("Seamanship"), 70);
+  EXPECT_EQ(game->sheet.SkillPurchases[static_cast<std::size_t>(FindSkillRow("Sailor Skill Suite"))], 0);
+}
+
 TEST_F(SkillsTest, ProficiencyPicksOfferWhatAClassMayLearn) {
   game->sheet.ClassLevels[3] = 1;  // a fighter
   EXPECT_EQ(PickProficiency(*game, WeaponPick::Sword), -1);

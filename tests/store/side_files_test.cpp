@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "character_image.h"
+#include "rules/skills_tsv.h"
 #include "support/scripted_platform.h"
 
 namespace veld::testing {
@@ -133,6 +134,14 @@ TEST_F(SideFiles, SpellsAreTokensWithBlanksWhereTheFileHasUnderscores) {
   EXPECT_EQ(game->SpellTable[2].Specialization, "Empty");
   EXPECT_EQ(game->SpellTable[1999].SourceTag, "Empty");
   EXPECT_EQ(game->sheet.SpellsKnown[7], 0);
+}
+
+TEST_F(SideFiles, TheSkillSheetIsWrittenWholeOrNotAtAll) {
+  EXPECT_FALSE(ExportSkills({.DiskRoom = 60}));
+  EXPECT_FALSE(std::filesystem::exists("skills.tsv"));
+  EXPECT_TRUE(ExportSkills());
+  EXPECT_EQ(FileText("skills.tsv"), SkillsTsv());
+  EXPECT_TRUE(platform.messages.empty()) << "whatever becomes of it";
 }
 
 TEST_F(SideFiles, ReadingOfSpellsStopsAtTheRowsThatThereAre) {

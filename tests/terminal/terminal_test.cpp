@@ -89,18 +89,17 @@ class Player {
   }
 
  private:
-  static constexpr int kListShare = 4;
+  static constexpr int kShare = 4;
   static constexpr int kMostTabs = 30;
   static constexpr int kEnough = 12;  // of a page that is only closed
 
   void Act(const std::string& title) {
     if (title == "Roll Your Own Dice") return Throw();
-    // What Enter did not change, and a list that has had its share, is left for the next control.
+    // What Enter did not change, and a control that has had its share, is left for the next one.
     const std::string seen = Seen();
-    if (++shown_[title] > kEnough && program_.KeysLine().ends_with("Esc Close")) return program_.Press(kEscapeKey);
-    int& visits = visits_[title];
-    const bool isList = program_.KeysLine().find("Up/Down choose") != std::string::npos;
-    if (seenAt_[title] == seen || (isList && ++visits % kListShare == 0)) program_.Press(kTabKey);
+    const int shown = ++shown_[title];
+    if (shown > kEnough && program_.KeysLine().ends_with("Esc Close")) return program_.Press(kEscapeKey);
+    if (seenAt_[title] == seen || shown % kShare == 0) program_.Press(kTabKey);
     for (int i = 0; i < kMostTabs && IsWayOut(program_.EnterDoes()); ++i) program_.Press(kTabKey);
     seenAt_[title] = Seen();
     if (program_.KeysLine().find("Up/Down choose") != std::string::npos) program_.Press(kDownKey);
@@ -138,7 +137,6 @@ class Player {
   PtyProgram& program_;
   std::string lastPrompt_;
   std::map<std::string, std::string> seenAt_;  ///< when Enter was last pressed on the page of that title
-  std::map<std::string, int> visits_;  ///< to lists of that page
   std::map<std::string, int> shown_;
   bool named_ = false;
 };
