@@ -101,7 +101,8 @@ int main(int argc, char** argv) {
   for (int i = 0; i < kKeys; ++i) keys.emplace_back("\x1BOB");
   std::vector<double> starts;
   std::vector<double> answers;
-  for (int round = -3; round < rounds; ++round) {  // the first ones warm the caches and see the messages of a first start
+  for (int round = -3; round < rounds;
+       ++round) {  // the first ones warm the caches and see the messages of a first start
     Sample veld;
     if (!Measure(VELD_TERMINAL_PROGRAM, "Toolkit", keys, veld) && round >= 0) {
       std::fprintf(stderr, "A screen did not come up.\n");
@@ -115,7 +116,7 @@ int main(int argc, char** argv) {
   const double answer = Median(answers);
   const double slowest = *std::ranges::max_element(answers);
   std::printf("start to first screen: %.1f ms (at most %.0f)\n", start, kMostStart);
-  std::printf("key to its answer: %.2f ms, the slowest of %zu %.2f ms (at most %.0f)\n", answer, answers.size(), slowest,
-              kMostAnswer);
+  std::printf("key to its answer: %.2f ms, the slowest of %zu %.2f ms (at most %.0f)\n", answer, answers.size(),
+              slowest, kMostAnswer);
   return start <= kMostStart && answer <= kMostAnswer ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -56,28 +56,28 @@ void RunAt(Game& game, int step, void (*stage)(Game&)) {
   stage(game);
 }
 
-/// Whether the player wants an almanac's tables for a class of its group.
-bool AsksForYouth(Game& game, std::size_t book, int isOfGroup, std::string_view almanac) {
-  if (!kYouthTablesStand || !game.IsOn(book) || isOfGroup != 1) return false;
-  return game.platform.Confirms("Yes or No", Format("Do you wish to use the %s Tables?", almanac));
+/// Whether the player is asked for an almanac's tables: its book is on and the class is of its group.
+bool OffersYouth(const Game& game, std::size_t book, int isOfGroup) {
+  return kYouthTablesStand && game.IsOn(book) && isOfGroup == 1;
+}
+
+/// 1 if the player wants an almanac's tables.
+int AsksForYouth(Game& game, std::string_view almanac) {
+  return game.platform.Confirms("Yes or No", Format("Do you wish to use the %s Tables?", almanac)) ? 1 : 0;
 }
 
 void RunFighterYouth(Game& game) {
-  if (!AsksForYouth(game, kWarmongersAlmanac, game.sheet.IsFighterClass, "Warmonger's Almanac")) {
-    game.sheet.UsesFighterBackground = 0;
-    return;
-  }
-  game.sheet.UsesFighterBackground = 1;
+  if (!OffersYouth(game, kWarmongersAlmanac, game.sheet.IsFighterClass)) return;
+  game.sheet.UsesFighterBackground = AsksForYouth(game, "Warmonger's Almanac");
+  if (game.sheet.UsesFighterBackground == 0) return;
   if (IsSingleClass(game)) RunPackageSelect(game, PackageList::Fighter);
   if (!HasClass(game, kBarbarian) && !HasClass(game, kBerserker) && !HasClass(game, kMonk)) RunWMABackground(game);
 }
 
 void RunMageYouth(Game& game) {
-  if (!AsksForYouth(game, kHexwrightsAlmanac, game.sheet.IsMageClass, "Hexwright's Almanac")) {
-    game.sheet.UsesMageBackground = 0;
-    return;
-  }
-  game.sheet.UsesMageBackground = 1;
+  if (!OffersYouth(game, kHexwrightsAlmanac, game.sheet.IsMageClass)) return;
+  game.sheet.UsesMageBackground = AsksForYouth(game, "Hexwright's Almanac");
+  if (game.sheet.UsesMageBackground == 0) return;
   if (game.sheet.SocialClassIndex < kLowestMiddleClass) {
     game.platform.ShowMessage(
         "Due to your low social class you are being forced into the Rustic Magic-User Package.");
@@ -92,11 +92,9 @@ void RunMageYouth(Game& game) {
 }
 
 void RunPriestYouth(Game& game) {
-  if (!AsksForYouth(game, kDevoteesAlmanac, game.sheet.IsClericClass, "Devotee's Almanac")) {
-    game.sheet.UsesClericBackground = 0;
-    return;
-  }
-  game.sheet.UsesClericBackground = 1;
+  if (!OffersYouth(game, kDevoteesAlmanac, game.sheet.IsClericClass)) return;
+  game.sheet.UsesClericBackground = AsksForYouth(game, "Devotee's Almanac");
+  if (game.sheet.UsesClericBackground == 0) return;
   RunDVABackground(game);
 }
 

@@ -10,7 +10,7 @@ namespace veld {
 namespace {
 
 constexpr int kMostDealRolls = 1'000;
-constexpr int kMostTableRolls = 100;
+constexpr int kMostAnyRolls = 10'000;
 constexpr int kPaintedMagePicks = 4;
 constexpr int kFirstLevel = 1;
 
@@ -76,11 +76,24 @@ bool DealSpellOf(Game& game, int level, std::string_view school) {
   return true;
 }
 
+/// True if a roll on a section can end the deal: by a spell that can be given, or by one of another level.
+bool CanDeal(const Game& game, const SchoolSection& section) {
+  for (int roll = 1; roll <= section.Die; ++roll) {
+    const std::string_view name = section.Spell(roll);
+    const int row = FindSpell(game.SpellTable, name);
+    if (row < 0) continue;
+    if (game.SpellTable[static_cast<std::size_t>(row)].Level != section.Level) return true;
+    if (IsFree(game, row) && !(LearnsNoAttack(game) && IsAttack(name))) return true;
+  }
+  return false;
+}
+
 /// What a specialist's die says for a level: a spell of the book's section if its row is of that level, else any unknown
 /// one of the level and school. A spell that is known, barred or kept back by a mentor is drawn again.
 void DealSchoolSpell(Game& game, const SpecialistSchool& school, int level) {
   const SchoolSection* section = FindSchoolSection(school.Specialist, level);
-  for (int tries = 0; section && tries < kMostTableRolls; ++tries) {
+  const int mostRolls = section && CanDeal(game, *section) ? kMostDealRolls : 0;
+  for (int rolls = 0; rolls < mostRolls; ++rolls) {
     const std::string_view name = section->Spell(RollDice(game, section->Die, 1));
     const int row = FindSpell(game.SpellTable, name);
     if (row >= 0 && game.SpellTable[static_cast<std::size_t>(row)].Level != level) break;
@@ -90,9 +103,13 @@ void DealSchoolSpell(Game& game, const SpecialistSchool& school, int level) {
   DealSpellOf(game, level, school.School);
 }
 
-/// One spell of any first-level table, by a d300.
+/// One spell of any first-level table, by a d300; nothing once all names are known or barred.
 void DealAnyFirstLevel(Game& game) {
-  for (int tries = 0; tries < kMostTableRolls; ++tries) {
+  using enum FirstLevelTable;
+  const bool isAnyLeft = AnyFree(game, FirstLevelSpells(A)) || AnyFree(game, FirstLevelSpells(B)) ||
+                         (!LearnsNoAttack(game) && AnyFree(game, FirstLevelSpells(C)));
+  if (!isAnyLeft) return;
+  for (int tries = 0; tries < kMostAnyRolls; ++tries) {
     FirstLevelTable table = FirstLevelTableOf(RollDice(game, 300, 1));
     if (table == FirstLevelTable::C && LearnsNoAttack(game)) table = FirstLevelTable::A;
     if (DealFirstLevelSpell(game, table)) return;
@@ -125,13 +142,14 @@ void DealPlain(Game& game, int picks, bool isWild) {
 }
 
 /// Deals a specialist `perLevel` spells of the school for each level that the mage has slots for, then any of the first
-/// level up to `picks`.
+/// level. Of the first level there are `picks` in all.
 void DealSpecialist(Game& game, const SpecialistSchool& school, int perLevel, int picks) {
   int dealt = 0;
   for (int level = 1; level <= static_cast<int>(kSpellLevels); ++level) {
     if (game.run.SpellsPerLevel[static_cast<std::size_t>(level - 1)] <= 0) break;
-    for (int i = 0; i < perLevel; ++i) DealSchoolSpell(game, school, level);
-    if (level == kFirstLevel) dealt = perLevel;
+    const int ofSchool = level == kFirstLevel ? std::min(perLevel, picks) : perLevel;
+    for (int i = 0; i < ofSchool; ++i) DealSchoolSpell(game, school, level);
+    if (level == kFirstLevel) dealt = ofSchool;
   }
   for (; dealt < picks; ++dealt) DealAnyFirstLevel(game);
 }

@@ -16,7 +16,8 @@ inline constexpr int kUnknownSpell = 0;
 inline constexpr int kBarredSpell = -1;  ///< for the length of the dealing
 
 /// Gives a mage the starting spells of the class, as mentors and given-up schools allow. What is barred stays marked
-/// until FinishSpellList. A specialist gets school spells for each level that has slots in SpellsPerLevel. Nothing for a character with StartingSpells -1 (a youth without spells).
+/// until FinishSpellList. A specialist gets school spells for each level that has slots in SpellsPerLevel. Nothing for a
+/// character with StartingSpells -1 (a youth without spells).
 void GrantStartingSpells(Game& game);
 
 /// "Read Magic" and "Write" that every mage holds, and the end of all bars. The free spells of a school youth are chosen

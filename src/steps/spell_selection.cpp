@@ -125,7 +125,7 @@ void RunCantripDialog(Game& game) {
       const std::size_t row = lists.Chosen(kMasterList);
       if (row >= kSpellRows || KnownCantrips(game) >= CantripsToChoose(game)) return;
       LearnSpell(game, row);
-    } else {
+    } else if (id == kRemove) {
       ForgetSpell(game, lists.Chosen(kOwnList));
     }
     lists.Fill();

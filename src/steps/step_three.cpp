@@ -55,7 +55,7 @@ constexpr ControlTemplate kStepThreeControls[] = {
     ButtonAt(17, 0, kAbort, "&Abort", ButtonRole::Cancel),
     ButtonAt(17, 0, kRollAgain, "&Roll again"),
 };
-constexpr FormTemplate kStepThree{"StepThree", "StepThree", kStepThreeControls};
+constexpr FormTemplate kStepThree{"StepThree", "Step 3", kStepThreeControls};
 
 constexpr int kFirstWhole = 3000;
 constexpr int kFirstPercentile = 3007;

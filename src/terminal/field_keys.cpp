@@ -50,20 +50,26 @@ std::size_t ByteAtCell(std::string_view text, const TextLine& line, int cell) {
 FieldKey ApplyFieldKey(TypedText& typed, const Key& key, int limit) {
   typed.Cursor = std::min(typed.Cursor, typed.Text.size());
   switch (key.Kind) {
-    case KeyKind::Character: return key.IsAlt ? FieldKey::NotMine : Insert(typed, key.Character, limit);
-    case KeyKind::ClearLine: return Clear(typed);
+    case KeyKind::Character:
+      return key.IsAlt ? FieldKey::NotMine : Insert(typed, key.Character, limit);
+    case KeyKind::ClearLine:
+      return Clear(typed);
     case KeyKind::Backspace:
       if (typed.IsChosen) return Clear(typed);
       return Erase(typed, CharacterBefore(typed.Text, typed.Cursor), typed.Cursor);
     case KeyKind::Delete:
       if (typed.IsChosen) return Clear(typed);
       return Erase(typed, typed.Cursor, CharacterAfter(typed.Text, typed.Cursor));
-    case KeyKind::Left: return MoveTo(typed, typed.IsChosen ? 0 : CharacterBefore(typed.Text, typed.Cursor));
+    case KeyKind::Left:
+      return MoveTo(typed, typed.IsChosen ? 0 : CharacterBefore(typed.Text, typed.Cursor));
     case KeyKind::Right:
       return MoveTo(typed, typed.IsChosen ? typed.Text.size() : CharacterAfter(typed.Text, typed.Cursor));
-    case KeyKind::Home: return MoveTo(typed, 0);
-    case KeyKind::End: return MoveTo(typed, typed.Text.size());
-    default: return FieldKey::NotMine;
+    case KeyKind::Home:
+      return MoveTo(typed, 0);
+    case KeyKind::End:
+      return MoveTo(typed, typed.Text.size());
+    default:
+      return FieldKey::NotMine;
   }
 }
 
@@ -107,12 +113,17 @@ FieldKey ApplyMultiLineKey(TypedText& typed, const Key& key, int limit, int widt
   const std::size_t line = LineOf(lines, typed.Cursor);
   const int cell = CellsOf(std::string_view(typed.Text).substr(lines[line].Begin, typed.Cursor - lines[line].Begin));
   switch (key.Kind) {
-    case KeyKind::Up: return MoveTo(typed, line == 0 ? 0 : ByteAtCell(typed.Text, lines[line - 1], cell));
+    case KeyKind::Up:
+      return MoveTo(typed, line == 0 ? 0 : ByteAtCell(typed.Text, lines[line - 1], cell));
     case KeyKind::Down:
-      return MoveTo(typed, line + 1 == lines.size() ? typed.Text.size() : ByteAtCell(typed.Text, lines[line + 1], cell));
-    case KeyKind::Home: return MoveTo(typed, lines[line].Begin);
-    case KeyKind::End: return MoveTo(typed, lines[line].End);
-    default: return ApplyFieldKey(typed, key, limit);
+      return MoveTo(typed,
+                    line + 1 == lines.size() ? typed.Text.size() : ByteAtCell(typed.Text, lines[line + 1], cell));
+    case KeyKind::Home:
+      return MoveTo(typed, lines[line].Begin);
+    case KeyKind::End:
+      return MoveTo(typed, lines[line].End);
+    default:
+      return ApplyFieldKey(typed, key, limit);
   }
 }
 

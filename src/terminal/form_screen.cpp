@@ -14,9 +14,9 @@ namespace veld {
 namespace {
 
 constexpr int kFrame = 1;
-constexpr int kCornerWidth = 8;           // "< Menu >"
-constexpr int kSearchPause = 1000;        // milliseconds after which the letters typed in a list begin anew
-constexpr int kSidewaysStep = 8;          // cells that an arrow moves a list's rows
+constexpr int kCornerWidth = 8;     // "< Menu >"
+constexpr int kSearchPause = 1000;  // milliseconds after which the letters typed in a list begin anew
+constexpr int kSidewaysStep = 8;    // cells that an arrow moves a list's rows
 constexpr std::string_view kCornerText = "< &Menu >";
 
 bool IsLine(ControlKind kind) {
@@ -151,19 +151,30 @@ void FormScreen::DrawControl(const PlacedControl& placed) {
   const bool isFocus = placed.Control == focus_;
   switch (control.Template.Kind) {
     case ControlKind::Title:
-    case ControlKind::Heading: return DrawLines(placed, Ink::Bold, false);
-    case ControlKind::Label: return DrawLines(placed, Ink::Paper, false);
-    case ControlKind::Result: return DrawLines(placed, Ink::Written, false);
-    case ControlKind::Text: return DrawLines(placed, Ink::Paper, isFocus);
+    case ControlKind::Heading:
+      return DrawLines(placed, Ink::Bold, false);
+    case ControlKind::Label:
+      return DrawLines(placed, Ink::Paper, false);
+    case ControlKind::Result:
+      return DrawLines(placed, Ink::Written, false);
+    case ControlKind::Text:
+      return DrawLines(placed, Ink::Paper, isFocus);
     case ControlKind::Edit:
-    case ControlKind::Number: return DrawEdit(placed, isFocus);
-    case ControlKind::MultiLine: return DrawMultiLine(placed, isFocus);
-    case ControlKind::Button: return DrawButton(placed, isFocus);
-    case ControlKind::List: return DrawList(placed, isFocus);
-    case ControlKind::Combo: return DrawCombo(placed, isFocus);
+    case ControlKind::Number:
+      return DrawEdit(placed, isFocus);
+    case ControlKind::MultiLine:
+      return DrawMultiLine(placed, isFocus);
+    case ControlKind::Button:
+      return DrawButton(placed, isFocus);
+    case ControlKind::List:
+      return DrawList(placed, isFocus);
+    case ControlKind::Combo:
+      return DrawCombo(placed, isFocus);
     case ControlKind::Check:
-    case ControlKind::Radio: return DrawMark(placed, isFocus);
-    case ControlKind::Progress: return DrawProgress(placed);
+    case ControlKind::Radio:
+      return DrawMark(placed, isFocus);
+    case ControlKind::Progress:
+      return DrawProgress(placed);
   }
 }
 
@@ -205,7 +216,8 @@ void FormScreen::DrawEdit(const PlacedControl& placed, bool isFocus) {
   screen_.Put(y, x + 1, control.Text, width, control.Enabled ? Ink::Written : Ink::Faint, view.Left);
   const int used = std::clamp(CellsOf(control.Text) - view.Left, 0, width);
   if (isMarked) screen_.Put(y, x + 1, control.Text, used, Ink::Focus, view.Left);
-  if (used < width) screen_.Put(y, x + 1 + used, std::string(static_cast<std::size_t>(width - used), '_'), width - used, edge);
+  if (used < width)
+    screen_.Put(y, x + 1 + used, std::string(static_cast<std::size_t>(width - used), '_'), width - used, edge);
   screen_.Put(y, x + 1 + width, "]", 1, isFocus ? Ink::Bold : edge);
   if (isFocus) screen_.SetCursor(y, x + 1 + cursor - view.Left);
 }
@@ -270,7 +282,8 @@ void FormScreen::DrawList(const PlacedControl& placed, bool isFocus) {
 void FormScreen::DrawCombo(const PlacedControl& placed, bool isFocus) {
   const Control& control = At(placed.Control);
   const bool hasRow = control.Selection >= 0;
-  const std::string_view text = hasRow ? std::string_view(control.Items[static_cast<std::size_t>(control.Selection)]) : "";
+  const std::string_view text =
+      hasRow ? std::string_view(control.Items[static_cast<std::size_t>(control.Selection)]) : "";
   const int x = ScreenX(placed.Area.X);
   const int y = ScreenY(placed.Area.Y);
   const int width = placed.Area.Width - metrics_.ComboPadding;
@@ -287,7 +300,10 @@ void FormScreen::DrawButton(const PlacedControl& placed, bool isFocus) {
   const int x = ScreenX(placed.Area.X);
   const int y = ScreenY(placed.Area.Y);
   const int width = placed.Area.Width;
-  const Ink ink = isFocus ? Ink::Focus : !control.Enabled ? Ink::Faint : IsDefault(control.Template) ? Ink::Bold : Ink::Paper;
+  const Ink ink = isFocus                       ? Ink::Focus
+                  : !control.Enabled            ? Ink::Faint
+                  : IsDefault(control.Template) ? Ink::Bold
+                                                : Ink::Paper;
   const int textWidth = std::min(CellsOf(WithoutMnemonic(control.Text)), std::max(width - 4, 0));
   screen_.Put(y, x, "<", width, ink);
   screen_.Put(y, x + width - 1, ">", 1, ink);
@@ -310,7 +326,8 @@ void FormScreen::DrawMark(const PlacedControl& placed, bool isFocus) {
   const Ink ink = !control.Enabled ? Ink::Faint : isFocus ? Ink::Focus : Ink::Paper;
   screen_.Put(y, x, box, 3, ink);
   const int width = std::min(placed.Area.Width - metrics_.MarkWidth, CellsOf(WithoutMnemonic(control.Text)));
-  screen_.PutMarked(y, x + metrics_.MarkWidth, marked_[placed.Control], width, control.Enabled ? Ink::Paper : Ink::Faint);
+  screen_.PutMarked(y, x + metrics_.MarkWidth, marked_[placed.Control], width,
+                    control.Enabled ? Ink::Paper : Ink::Faint);
   if (isFocus) screen_.SetCursor(y, x + 1);
 }
 
@@ -417,7 +434,8 @@ void FormScreen::FocusFirst() {
     return false;
   };
   if (take([](const ControlTemplate& c) { return IsTyped(c.Kind); })) return;
-  if (take([](const ControlTemplate& c) { return c.Kind == ControlKind::List || c.Kind == ControlKind::Combo; })) return;
+  if (take([](const ControlTemplate& c) { return c.Kind == ControlKind::List || c.Kind == ControlKind::Combo; }))
+    return;
   if (take(IsDefault)) return;
   take([](const ControlTemplate& c) { return c.Kind == ControlKind::Button || IsMark(c.Kind); });
 }
@@ -441,19 +459,27 @@ void FormScreen::HandleKey(const Key& key) {
       return;
     case KeyKind::BackTab:
     case KeyKind::Up:
-    case KeyKind::Left: return MoveFocus(-1);
+    case KeyKind::Left:
+      return MoveFocus(-1);
     case KeyKind::Down:
-    case KeyKind::Right: return MoveFocus(1);
-    case KeyKind::PageUp: return ScrollPage(1 - view_.Height);
-    case KeyKind::PageDown: return ScrollPage(view_.Height - 1);
-    case KeyKind::Enter: return PressEnter();
-    case KeyKind::Escape: return form_.PressCloseBox();
+    case KeyKind::Right:
+      return MoveFocus(1);
+    case KeyKind::PageUp:
+      return ScrollPage(1 - view_.Height);
+    case KeyKind::PageDown:
+      return ScrollPage(view_.Height - 1);
+    case KeyKind::Enter:
+      return PressEnter();
+    case KeyKind::Escape:
+      return form_.PressCloseBox();
     case KeyKind::MainMenu:
-    case KeyKind::PageMenu: return OpenPageMenu();
+    case KeyKind::PageMenu:
+      return OpenPageMenu();
     case KeyKind::Character:
       if (!PressLetter(key.Character)) screen_.Beep();
       return;
-    default: return;
+    default:
+      return;
   }
 }
 
@@ -467,11 +493,16 @@ bool FormScreen::HandleControlKey(const Key& key) {
   switch (control.Template.Kind) {
     case ControlKind::Edit:
     case ControlKind::Number:
-    case ControlKind::MultiLine: return HandleFieldKey(key);
-    case ControlKind::List: return HandleListKey(key);
-    case ControlKind::Text: return HandleTextKey(key);
-    case ControlKind::Combo: return HandleComboKey(key);
-    default: break;
+    case ControlKind::MultiLine:
+      return HandleFieldKey(key);
+    case ControlKind::List:
+      return HandleListKey(key);
+    case ControlKind::Text:
+      return HandleTextKey(key);
+    case ControlKind::Combo:
+      return HandleComboKey(key);
+    default:
+      break;
   }
   if (key.Kind != KeyKind::Character || key.Character != U' ') return false;
   if (IsMark(control.Template.Kind)) {
@@ -538,13 +569,27 @@ bool FormScreen::HandleListKey(const Key& key) {
   const bool hasRow = control.Selection >= 0;
   const auto move = [&](int rows) { ChooseRow(focus_, hasRow ? control.Selection + rows : view.Row); };
   switch (key.Kind) {
-    case KeyKind::Up: move(-1); return true;
-    case KeyKind::Down: move(1); return true;
-    case KeyKind::PageUp: move(-page); return true;
-    case KeyKind::PageDown: move(page); return true;
-    case KeyKind::Home: ChooseRow(focus_, 0); return true;
-    case KeyKind::End: ChooseRow(focus_, Count(control.Items) - 1); return true;
-    case KeyKind::Left: view.Left = std::max(view.Left - kSidewaysStep, 0); return true;
+    case KeyKind::Up:
+      move(-1);
+      return true;
+    case KeyKind::Down:
+      move(1);
+      return true;
+    case KeyKind::PageUp:
+      move(-page);
+      return true;
+    case KeyKind::PageDown:
+      move(page);
+      return true;
+    case KeyKind::Home:
+      ChooseRow(focus_, 0);
+      return true;
+    case KeyKind::End:
+      ChooseRow(focus_, Count(control.Items) - 1);
+      return true;
+    case KeyKind::Left:
+      view.Left = std::max(view.Left - kSidewaysStep, 0);
+      return true;
     case KeyKind::Right: {
       int widest = 0;
       for (const std::string& item : control.Items) widest = std::max(widest, CellsOf(item));
@@ -559,7 +604,8 @@ bool FormScreen::HandleListKey(const Key& key) {
         SearchRow(focus_, key.Character);
       }
       return true;
-    default: return false;
+    default:
+      return false;
   }
 }
 
@@ -570,23 +616,44 @@ bool FormScreen::HandleTextKey(const Key& key) {
   const int last = std::max(Count(placed->Wrapped) - placed->Lines, 0);
   const int page = std::max(placed->Lines - 1, 1);
   switch (key.Kind) {
-    case KeyKind::Up: first = std::max(first - 1, 0); return true;
-    case KeyKind::Down: first = std::min(first + 1, last); return true;
-    case KeyKind::PageUp: first = std::max(first - page, 0); return true;
-    case KeyKind::PageDown: first = std::min(first + page, last); return true;
-    case KeyKind::Home: first = 0; return true;
-    case KeyKind::End: first = last; return true;
-    default: return false;
+    case KeyKind::Up:
+      first = std::max(first - 1, 0);
+      return true;
+    case KeyKind::Down:
+      first = std::min(first + 1, last);
+      return true;
+    case KeyKind::PageUp:
+      first = std::max(first - page, 0);
+      return true;
+    case KeyKind::PageDown:
+      first = std::min(first + page, last);
+      return true;
+    case KeyKind::Home:
+      first = 0;
+      return true;
+    case KeyKind::End:
+      first = last;
+      return true;
+    default:
+      return false;
   }
 }
 
 bool FormScreen::HandleComboKey(const Key& key) {
   const Control& control = At(focus_);
   switch (key.Kind) {
-    case KeyKind::Up: ChooseRow(focus_, control.Selection - 1); return true;
-    case KeyKind::Down: ChooseRow(focus_, control.Selection + 1); return true;
-    case KeyKind::Home: ChooseRow(focus_, 0); return true;
-    case KeyKind::End: ChooseRow(focus_, Count(control.Items) - 1); return true;
+    case KeyKind::Up:
+      ChooseRow(focus_, control.Selection - 1);
+      return true;
+    case KeyKind::Down:
+      ChooseRow(focus_, control.Selection + 1);
+      return true;
+    case KeyKind::Home:
+      ChooseRow(focus_, 0);
+      return true;
+    case KeyKind::End:
+      ChooseRow(focus_, Count(control.Items) - 1);
+      return true;
     case KeyKind::Character:
       if (key.Character == U' ') {
         DropDown(focus_);
@@ -594,7 +661,8 @@ bool FormScreen::HandleComboKey(const Key& key) {
         SearchRow(focus_, key.Character);
       }
       return true;
-    default: return false;
+    default:
+      return false;
   }
 }
 
@@ -608,8 +676,8 @@ void FormScreen::DropDown(std::size_t control) {
     if (item.Text.empty()) item.Text = " ";
     items.push_back(std::move(item));
   }
-  const MenuChoice choice = RunMenu(screen_, items, ScreenY(placed->Area.Y) + 1, ScreenX(placed->Area.X),
-                                    At(control).Selection);
+  const MenuChoice choice =
+      RunMenu(screen_, items, ScreenY(placed->Area.Y) + 1, ScreenX(placed->Area.X), At(control).Selection);
   if (choice.End == MenuEnd::Chosen) form_.Choose(At(control).Template.Id, choice.Id - 1);
 }
 

@@ -95,9 +95,9 @@ class FormScreen : public Layer, private FormObserver {
   std::vector<std::string> marked_;
   std::map<std::size_t, View> views_;
   PageRect frame_;
-  PageRect view_;  ///< what of the screen shows the page
-  PageSize room_;  ///< that the page was laid out for
-  PageSize grown_; ///< the page never shrinks while it is open
+  PageRect view_;   ///< what of the screen shows the page
+  PageSize room_;   ///< that the page was laid out for
+  PageSize grown_;  ///< the page never shrinks while it is open
   int scrollX_ = 0;
   int scrollY_ = 0;
   bool isScrolledByHand_ = false;

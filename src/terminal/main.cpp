@@ -35,7 +35,8 @@ int main() {
   }
   SetUpLocale();
   std::optional<veld::Screen> screen(std::in_place);
-  if (!screen->IsOpen()) return Refuse("VELD does not know this kind of terminal: set TERM to one that it has, such as xterm.");
+  if (!screen->IsOpen())
+    return Refuse("VELD does not know this kind of terminal: set TERM to one that it has, such as xterm.");
   try {
     veld::TerminalPlatform platform(*screen);
     return veld::RunVeld(platform);

@@ -8,8 +8,8 @@ namespace veld {
 
 namespace {
 
-constexpr int kFrame = 2;     // the edges on both sides
-constexpr int kPadding = 4;   // a blank on each side of an item's text, and the mark of a submenu
+constexpr int kFrame = 2;    // the edges on both sides
+constexpr int kPadding = 4;  // a blank on each side of an item's text, and the mark of a submenu
 
 /// The width of a menu with its frame.
 int MenuWidth(const std::vector<MenuItem>& items, int columns) {
@@ -30,7 +30,9 @@ class MenuPopup : public Layer {
  private:
   int LastRow() const { return std::max(static_cast<int>(items_.size()) - 1, 0); }
   const MenuItem& Item() const { return items_[static_cast<std::size_t>(row_)]; }
-  int Height() const { return std::clamp(static_cast<int>(items_.size()) + kFrame, 3, std::max(screen_.Rows() - 1, 3)); }
+  int Height() const {
+    return std::clamp(static_cast<int>(items_.size()) + kFrame, 3, std::max(screen_.Rows() - 1, 3));
+  }
   void Move(int rows);
   bool TakeLetter(char32_t letter);
   std::optional<MenuChoice> Enter();
@@ -126,25 +128,42 @@ MenuChoice MenuPopup::Run() {
     if (screen_.IsLost()) return {};
     std::optional<MenuChoice> choice;
     switch (key.Kind) {
-      case KeyKind::Up: Move(-1); break;
-      case KeyKind::Down: Move(1); break;
-      case KeyKind::PageUp: Move(-kPage); break;
-      case KeyKind::PageDown: Move(kPage); break;
-      case KeyKind::Home: row_ = 0; break;
-      case KeyKind::End: row_ = LastRow(); break;
-      case KeyKind::Left: return {MenuEnd::Left};
+      case KeyKind::Up:
+        Move(-1);
+        break;
+      case KeyKind::Down:
+        Move(1);
+        break;
+      case KeyKind::PageUp:
+        Move(-kPage);
+        break;
+      case KeyKind::PageDown:
+        Move(kPage);
+        break;
+      case KeyKind::Home:
+        row_ = 0;
+        break;
+      case KeyKind::End:
+        row_ = LastRow();
+        break;
+      case KeyKind::Left:
+        return {MenuEnd::Left};
       case KeyKind::Right:
         if (Item().Items.empty()) return {MenuEnd::Right};
         choice = Enter();
         break;
       case KeyKind::Escape:
       case KeyKind::MainMenu:
-      case KeyKind::PageMenu: return {};
-      case KeyKind::Enter: choice = Enter(); break;
+      case KeyKind::PageMenu:
+        return {};
+      case KeyKind::Enter:
+        choice = Enter();
+        break;
       case KeyKind::Character:
         if (key.Character == U' ' || TakeLetter(key.Character)) choice = Enter();
         break;
-      default: break;
+      default:
+        break;
     }
     if (choice) return *choice;
     if (screen_.IsLost()) return {};

@@ -54,7 +54,8 @@ bool IsThere(const fs::path& path) {
 /// A name as a player types it: "~" is the home folder.
 fs::path TypedPath(const fs::path& folder, const std::string& name) {
   const char* home = std::getenv("HOME");
-  if (home && (name == "~" || name.starts_with("~/"))) return fs::path(home) / name.substr(std::min<std::size_t>(name.size(), 2));
+  if (home && (name == "~" || name.starts_with("~/")))
+    return fs::path(home) / name.substr(std::min<std::size_t>(name.size(), 2));
   return folder / name;
 }
 

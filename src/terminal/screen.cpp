@@ -96,24 +96,39 @@ void Dip(Ink ink, bool isUnderlined = false) {
 
 KeyKind FunctionKey(wint_t code) {
   switch (code) {
-    case KEY_ENTER: return KeyKind::Enter;
-    case KEY_BTAB: return KeyKind::BackTab;
-    case KEY_UP: return KeyKind::Up;
-    case KEY_DOWN: return KeyKind::Down;
-    case KEY_LEFT: return KeyKind::Left;
-    case KEY_RIGHT: return KeyKind::Right;
+    case KEY_ENTER:
+      return KeyKind::Enter;
+    case KEY_BTAB:
+      return KeyKind::BackTab;
+    case KEY_UP:
+      return KeyKind::Up;
+    case KEY_DOWN:
+      return KeyKind::Down;
+    case KEY_LEFT:
+      return KeyKind::Left;
+    case KEY_RIGHT:
+      return KeyKind::Right;
     case KEY_HOME:
-    case KEY_FIND: return KeyKind::Home;
+    case KEY_FIND:
+      return KeyKind::Home;
     case KEY_END:
-    case KEY_SELECT: return KeyKind::End;
-    case KEY_PPAGE: return KeyKind::PageUp;
-    case KEY_NPAGE: return KeyKind::PageDown;
-    case KEY_BACKSPACE: return KeyKind::Backspace;
-    case KEY_DC: return KeyKind::Delete;
-    case KEY_F(10): return KeyKind::MainMenu;
+    case KEY_SELECT:
+      return KeyKind::End;
+    case KEY_PPAGE:
+      return KeyKind::PageUp;
+    case KEY_NPAGE:
+      return KeyKind::PageDown;
+    case KEY_BACKSPACE:
+      return KeyKind::Backspace;
+    case KEY_DC:
+      return KeyKind::Delete;
+    case KEY_F(10):
+      return KeyKind::MainMenu;
     case KEY_F(9):
-    case KEY_F(22): return KeyKind::PageMenu;
-    default: return KeyKind::None;
+    case KEY_F(22):
+      return KeyKind::PageMenu;
+    default:
+      return KeyKind::None;
   }
 }
 
@@ -121,13 +136,19 @@ Key PlainKey(wint_t code) {
   constexpr wint_t kControlU = 0x15;
   switch (code) {
     case '\r':
-    case '\n': return {KeyKind::Enter};
-    case '\t': return {KeyKind::Tab};
+    case '\n':
+      return {KeyKind::Enter};
+    case '\t':
+      return {KeyKind::Tab};
     case 0x08:
-    case 0x7F: return {KeyKind::Backspace};
-    case kControlU: return {KeyKind::ClearLine};
-    case kEscape: return {KeyKind::Escape};
-    default: break;
+    case 0x7F:
+      return {KeyKind::Backspace};
+    case kControlU:
+      return {KeyKind::ClearLine};
+    case kEscape:
+      return {KeyKind::Escape};
+    default:
+      break;
   }
   if (code < 0x20 || (code > 0x7F && code < 0xA0)) return {KeyKind::None, static_cast<char32_t>(code)};
   return {KeyKind::Character, static_cast<char32_t>(code)};
@@ -265,8 +286,10 @@ void Screen::PutMarked(int y, int x, std::string_view text, int width, Ink ink) 
   std::size_t marked = std::string_view::npos;
   for (std::size_t i = 0; i + 1 < text.size() && marked == std::string_view::npos; ++i) {
     if (text[i] != '&') continue;
-    if (text[i + 1] == '&') ++i;
-    else marked = i;
+    if (text[i + 1] == '&')
+      ++i;
+    else
+      marked = i;
   }
   if (marked == std::string_view::npos) return;
   const int cell = x + CellsOf(WithoutMnemonic(text.substr(0, marked)));

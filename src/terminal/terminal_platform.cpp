@@ -253,8 +253,10 @@ bool TerminalPlatform::ShowProgress(int percent) {
   const auto now = std::chrono::steady_clock::now();
   if (now - progress.lookedAt >= kProgressEvery) {
     progress.form.SetNumber(kProgressBar, percent);
-    if (!progress.isCancelled) progress.page.HandleKey(screen_.ReadKey(0));
-    else screen_.Paint();
+    if (!progress.isCancelled)
+      progress.page.HandleKey(screen_.ReadKey(0));
+    else
+      screen_.Paint();
     progress.lookedAt = std::chrono::steady_clock::now();
   }
   return !progress.isCancelled;

@@ -145,6 +145,15 @@ TEST_F(SpellsTest, ADealEndsWhenNoNameIsFree) {
   game->sheet.SpellsKnown.fill(kBarredSpell);
   EXPECT_FALSE(DealFirstLevelSpell(*game, FirstLevelTable::A));
   EXPECT_EQ(game->dice.RandomState, before) << "before it rolls";
+  for (const char* className : {"Magic-User", "Blood Mage", "Standard Specialist: Abjurer"}) {
+    Mage(className, 12, 3);
+    GrantStartingSpells(*game);
+    EXPECT_EQ(game->dice.RandomState, before) << className;
+  }
+  game->sheet.SpellsKnown.fill(kUnknownSpell);
+  Mage("Double Specialist: Abjurer", 27, 0);
+  GrantStartingSpells(*game);
+  EXPECT_TRUE(Known().empty()) << "a specialist who is owed nothing gets nothing";
 }
 
 TEST_F(SpellsTest, ReadingAndWritingFollowTheChoice) {

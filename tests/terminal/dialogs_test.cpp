@@ -56,37 +56,82 @@ struct Dialog {
 
 const Dialog kDialogs[] = {
     {"Step 6", RunStepSix},
-    {"Siblings", [](Game& game) { game.sheet.SiblingCount = 3; RunSiblings(game); }},
+    {"Siblings",
+     [](Game& game) {
+       game.sheet.SiblingCount = 3;
+       RunSiblings(game);
+     }},
     {"Quirks and Flaws", RunCherryPick},
     {"Quirks and Flaws", RunQuirksandFlaws},
     {"Minor Quirk", RunMinorQuirk},
     {"Major Quirk", RunMajorQuirk},
     {"Step 8", RunStepEight},
     {"Step 9", RunStepNine},
-    {"Thief Abilities", [](Game& game) { game.sheet.ClassLevels[16] = 1; RunAllotment(game, 16); }},
-    {"Bard Abilities", [](Game& game) { game.sheet.ClassLevels[18] = 1; RunAllotment(game, 18); }},
-    {"Bounty Hunter Abilities", [](Game& game) { game.sheet.ClassLevels[60] = 1; RunAllotment(game, 60); }},
+    {"Thief Abilities",
+     [](Game& game) {
+       game.sheet.ClassLevels[16] = 1;
+       RunAllotment(game, 16);
+     }},
+    {"Bard Abilities",
+     [](Game& game) {
+       game.sheet.ClassLevels[18] = 1;
+       RunAllotment(game, 18);
+     }},
+    {"Bounty Hunter Abilities",
+     [](Game& game) {
+       game.sheet.ClassLevels[60] = 1;
+       RunAllotment(game, 60);
+     }},
     {"Step 10", RunStepTen},
-    {"Money", [](Game& game) { game.run.BuildingPoints = 5; RunMoneyBP(game); }},
+    {"Money",
+     [](Game& game) {
+       game.run.BuildingPoints = 5;
+       RunMoneyBP(game);
+     }},
     {"Skills", RunSkills},
     {"Talents", RunTalents},
     {"Weapon Proficiencies", RunWeaponProf},
-    {"Pick your free skill", [](Game& game) { PickOne(game, PickPage::FreeRemote, {"one", "two"}); }},
-    {"Pick your free item", [](Game& game) { PickOne(game, PickPage::FreeWeapon, {"one", "two"}); }},
+    {"Pick your free skill",
+     [](Game& game) {
+       PickOne(game, PickPage::FreeRemote, {"one", "two"});
+     }},
+    {"Pick your free item",
+     [](Game& game) {
+       PickOne(game, PickPage::FreeWeapon, {"one", "two"});
+     }},
     {"Instrument", PickBardInstrument},
     {"Choose a name", [](Game& game) { AskName(game, "A name"); }},
-    {"Spell Selection", [](Game& game) { game.run.SpellListIndex = 3; RunSpellSellection(game); }},
+    {"Spell Selection",
+     [](Game& game) {
+       game.run.SpellListIndex = 3;
+       RunSpellSellection(game);
+     }},
     {"Free Spell", [](Game& game) { RunFreeSpellSellection(game, FreeSpellKind::AnyLevel); }},
-    {"Tattoo", [](Game& game) { game.sheet.RaceName = kTattooRace; RunTattoo(game); }},
+    {"Tattoo",
+     [](Game& game) {
+       game.sheet.RaceName = kTattooRace;
+       RunTattoo(game);
+     }},
     {"Do you wish to take the Take After Talent for 30 BP?",
-     [](Game& game) { game.sheet.RaceName = "Half-elf"; RunTakeAfter(game); }},
+     [](Game& game) {
+       game.sheet.RaceName = "Half-elf";
+       RunTakeAfter(game);
+     }},
     {"Step 14", RunStepFourteen},
     {"Step 18: Name your character", RunStepEightteen},
     {"Step 19", RunEquip},
     {"Equipment", RunEditEquip},
     {"RFC - Training Tables", RunTraining, true},
-    {"VELD Options", [](Game& game) { SaveOptions(game); RunOptions(game); }},
-    {"Recover", [](Game& game) { KeepRecoveryCopy(game); RunRecover(game); }},
+    {"VELD Options",
+     [](Game& game) {
+       SaveOptions(game);
+       RunOptions(game);
+     }},
+    {"Recover",
+     [](Game& game) {
+       KeepRecoveryCopy(game);
+       RunRecover(game);
+     }},
     {"About VELD", RunAbout, true},
 };
 
@@ -131,7 +176,8 @@ std::set<std::pair<int, int>> TabThrough(PtyProgram& program, const std::string&
   return places;
 }
 
-/// Leaves by Escape. A dialog that does not let go yet is played on: what it says Enter does, one control after another.
+/// Leaves by Escape. A dialog that does not let go yet is played on: what it says Enter does, one control after
+/// another.
 void Leave(PtyProgram& program) {
   for (int tries = 0; tries < 60 && program.IsRunning(); ++tries) {
     program.Press(kEscapeKey);

@@ -44,9 +44,9 @@ class PtyProgram {
   // What a person reads.
   std::string Shows() const { return screen.Text(); }
   bool Shows(std::string_view part) const { return screen.Text().find(part) != std::string::npos; }
-  std::string Title() const;     ///< of the page that the cursor stands in; empty if there is none
-  std::string KeysLine() const;  ///< the last line
-  std::string EnterDoes() const; ///< what the keys' line says of Enter
+  std::string Title() const;      ///< of the page that the cursor stands in; empty if there is none
+  std::string KeysLine() const;   ///< the last line
+  std::string EnterDoes() const;  ///< what the keys' line says of Enter
 
  private:
   bool Read(int milliseconds);

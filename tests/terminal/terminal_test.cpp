@@ -55,7 +55,8 @@ class TerminalTest : public ::testing::Test {
 std::string ThrowDice(const std::string& shown) {
   std::string number;
   for (std::size_t d = shown.find('d'); d != std::string::npos; d = shown.find('d', d + 1)) {
-    const bool isBetweenDigits = d > 0 && d + 1 < shown.size() && std::isdigit(static_cast<unsigned char>(shown[d - 1])) &&
+    const bool isBetweenDigits = d > 0 && d + 1 < shown.size() &&
+                                 std::isdigit(static_cast<unsigned char>(shown[d - 1])) &&
                                  std::isdigit(static_cast<unsigned char>(shown[d + 1]));
     if (!isBetweenDigits) continue;
     std::size_t begin = d;
@@ -167,22 +168,28 @@ TEST_F(TerminalTest, AWholeGenerationIsPlayedFromNewCharacterToASavedFile) {
   EXPECT_FALSE(game->sheet.ClassName.Empty());
   EXPECT_TRUE(Contains(FileText((data_ / "dice.log").string()), "User input"));
 
-  program.Press("\x1B" "fx");  // File, Exit
+  program.Press(
+      "\x1B"
+      "fx");  // File, Exit
   EXPECT_EQ(program.WaitForEnd(), 0);
   for (const std::string& title : player.titles) std::cout << title << "; ";
   std::cout << player.typedDice << " throws typed\n";
-  for (const char* title : {"StepThree", "Step 6", "Step 8", "Step 9", "Step 10", "Skills", "Step 14", "Step 19"}) {
+  for (const char* title : {"Step 3", "Step 6", "Step 8", "Step 9", "Step 10", "Skills", "Step 14", "Step 19"}) {
     EXPECT_TRUE(player.titles.contains(title)) << title;
   }
 }
 
 /// Brings the program to a page of Step 3 with a race chosen, the dice rolled by the program.
 void OpenStepThreeWithRace(PtyProgram& program) {
-  program.Press("\x1B" "f");
+  program.Press(
+      "\x1B"
+      "f");
   program.Press("n");
   ASSERT_EQ(program.Title(), "Roll Your Own Dice") << program.Shows();
-  program.Press("\x1B" "t");
-  ASSERT_EQ(program.Title(), "StepThree") << program.Shows();
+  program.Press(
+      "\x1B"
+      "t");
+  ASSERT_EQ(program.Title(), "Step 3") << program.Shows();
   program.Press(kDownKey);
 }
 
@@ -196,12 +203,26 @@ TEST_F(TerminalTest, EveryCommandOfTheMenusIsReachedByKeyboard) {
     program.Press(kEscapeKey);
     EXPECT_EQ(program.Title(), "") << program.Shows();
   };
-  opens("\x1B" "ha", "About VELD");
-  opens("\x1B" "fs", "Save");
-  opens("\x1B" "fl", "Load");
-  opens("\x1B" "fr", "VELD");  // nothing to recover yet
+  opens(
+      "\x1B"
+      "ha",
+      "About VELD");
+  opens(
+      "\x1B"
+      "fs",
+      "Save");
+  opens(
+      "\x1B"
+      "fl",
+      "Load");
+  opens(
+      "\x1B"
+      "fr",
+      "VELD");  // nothing to recover yet
 
-  program.Press("\x1B" "h");
+  program.Press(
+      "\x1B"
+      "h");
   program.Press("o");
   ASSERT_EQ(program.Title(), "VELD Options") << program.Shows();
   const int optionBoxes = 12;
@@ -213,7 +234,9 @@ TEST_F(TerminalTest, EveryCommandOfTheMenusIsReachedByKeyboard) {
   EXPECT_EQ(rows.size(), optionBoxes + 1U) << "every box is reached and can be seen";
   program.Press(kEscapeKey);
 
-  program.Press("\x1B" "h");
+  program.Press(
+      "\x1B"
+      "h");
   program.Press("d");  // the dice tester counts, tells, or is cancelled
   for (int i = 0; i < 10 && !program.Title().empty(); ++i) program.Press(kEscapeKey);
   EXPECT_EQ(program.Title(), "") << program.Shows();
@@ -227,7 +250,7 @@ TEST_F(TerminalTest, EveryCommandOfTheMenusIsReachedByKeyboard) {
   EXPECT_TRUE(program.Shows("between 3 and 18")) << program.Shows();
   program.Press(kEnterKey);
   program.Press(kEscapeKey);
-  ASSERT_EQ(program.Title(), "StepThree") << program.Shows();
+  ASSERT_EQ(program.Title(), "Step 3") << program.Shows();
   // A submenu of a submenu.
   program.Press(kPageMenuKey);
   program.Press("a");
@@ -235,7 +258,7 @@ TEST_F(TerminalTest, EveryCommandOfTheMenusIsReachedByKeyboard) {
   program.Press(kRightKey);
   EXPECT_TRUE(program.Shows("Charisma +1")) << program.Shows();
   program.Press(kEscapeKey, 3);
-  ASSERT_EQ(program.Title(), "StepThree") << program.Shows();
+  ASSERT_EQ(program.Title(), "Step 3") << program.Shows();
   program.Press(kMainMenuKey);
   EXPECT_TRUE(program.Shows("New Character")) << program.Shows();
   program.Press(kEscapeKey);
@@ -249,7 +272,9 @@ TEST_F(TerminalTest, FilesAreFoundCompletedAndNotOverwrittenUnasked) {
   std::ofstream(data_ / "heroes" / "old.vlf") << "not a character";
   PtyProgram program(RunProgram);
   PassMessages(program);
-  program.Press("\x1B" "f");
+  program.Press(
+      "\x1B"
+      "f");
   program.Press("l");
   program.Press("he");
   program.Press(kTabKey);
@@ -261,12 +286,17 @@ TEST_F(TerminalTest, FilesAreFoundCompletedAndNotOverwrittenUnasked) {
   program.Press("none" + std::string(kEnterKey));
   EXPECT_TRUE(program.Shows("There is no file")) << program.Shows();
   program.Press(kEnterKey);
-  program.Press("\x15" "heroes" + std::string(kEnterKey));
+  program.Press(
+      "\x15"
+      "heroes" +
+      std::string(kEnterKey));
   EXPECT_TRUE(program.Shows("old.vlf")) << program.Shows();
   EXPECT_FALSE(program.Shows("notes.txt")) << "of another type: " << program.Shows();
   program.Press(kEscapeKey);
 
-  program.Press("\x1B" "f");
+  program.Press(
+      "\x1B"
+      "f");
   program.Press("s");
   program.Press("\x15heroes/notes.txt" + std::string(kEnterKey));
   ASSERT_TRUE(program.Shows("is there already")) << program.Shows();
@@ -280,7 +310,9 @@ TEST_F(TerminalTest, FilesAreFoundCompletedAndNotOverwrittenUnasked) {
 TEST_F(TerminalTest, AResizedTerminalIsDrawnAnewAndASmallOneScrolls) {
   PtyProgram program(RunProgram);
   PassMessages(program);
-  program.Press("\x1B" "h");
+  program.Press(
+      "\x1B"
+      "h");
   program.Press("o");
   ASSERT_TRUE(program.Shows("< Close >")) << program.Shows();
   program.Resize(12, 60);
@@ -298,7 +330,9 @@ void ExpectRecoveryAfter(const fs::path& data, int (*run)(), End end) {
   PtyProgram program(run);
   for (int i = 0; i < 5 && program.Title() == "VELD"; ++i) program.Press(kEnterKey);
   OpenStepThreeWithRace(program);
-  program.Press("\x1B" "o");
+  program.Press(
+      "\x1B"
+      "o");
   ASSERT_EQ(program.Title(), "Step 6") << program.Shows();
   fs::remove(data / "autosave.vlf");
   end(program);
@@ -353,7 +387,7 @@ TEST(FieldKeysTest, SeveralLinesBreakAtBlanksAndTheCursorKeepsItsCell) {
 
 TEST(CellsTest, WideLettersAndAccentsTakeTheirOwnCells) {
   std::setlocale(LC_CTYPE, "C.UTF-8");
-  EXPECT_EQ(CellsOf("e\xCC\x81"), 1);          // e and an accent that joins it
+  EXPECT_EQ(CellsOf("e\xCC\x81"), 1);  // e and an accent that joins it
   EXPECT_EQ(CellsFrom("abc", 1, 4), U"bc  ");
   EXPECT_EQ(CellsFrom("abcdef", 0, 4, true), U"abc>");
   EXPECT_EQ(CellsFrom("a\tb", 0, 3), U"a b");

@@ -28,13 +28,20 @@ std::size_t UnitLength(std::string_view bytes) {
 
 char32_t LineLetter(char32_t letter) {
   switch (letter) {
-    case U'q': return U'─';
-    case U'x': return U'│';
-    case U'l': return U'┌';
-    case U'k': return U'┐';
-    case U'm': return U'└';
-    case U'j': return U'┘';
-    default: return letter;
+    case U'q':
+      return U'─';
+    case U'x':
+      return U'│';
+    case U'l':
+      return U'┌';
+    case U'k':
+      return U'┐';
+    case U'm':
+      return U'└';
+    case U'j':
+      return U'┘';
+    default:
+      return letter;
   }
 }
 
@@ -99,13 +106,26 @@ void VtScreen::Put(char32_t character) {
 void VtScreen::Control(char byte) {
   isWrapPending_ = false;
   switch (byte) {
-    case '\r': column_ = 0; break;
-    case '\n': LineFeed(); break;
-    case '\b': column_ = std::max(column_ - 1, 0); break;
-    case '\t': column_ = std::min((column_ / 8 + 1) * 8, columns_ - 1); break;
-    case 0x0E: drawsLines_ = true; break;
-    case 0x0F: drawsLines_ = false; break;
-    default: break;
+    case '\r':
+      column_ = 0;
+      break;
+    case '\n':
+      LineFeed();
+      break;
+    case '\b':
+      column_ = std::max(column_ - 1, 0);
+      break;
+    case '\t':
+      column_ = std::min((column_ / 8 + 1) * 8, columns_ - 1);
+      break;
+    case 0x0E:
+      drawsLines_ = true;
+      break;
+    case 0x0F:
+      drawsLines_ = false;
+      break;
+    default:
+      break;
   }
 }
 
@@ -167,19 +187,37 @@ void VtScreen::Sequence(char final, const std::string& parameters) {
       row_ = std::min(count, rows_) - 1;
       column_ = std::clamp(second, 1, columns_) - 1;
       break;
-    case 'A': row_ = std::max(row_ - count, 0); break;
-    case 'B': row_ = std::min(row_ + count, rows_ - 1); break;
-    case 'C': column_ = std::min(column_ + count, columns_ - 1); break;
-    case 'D': column_ = std::max(column_ - count, 0); break;
-    case 'G': column_ = std::min(count, columns_) - 1; break;
-    case 'd': row_ = std::min(count, rows_) - 1; break;
-    case 'Z': column_ = (std::max(column_ - 1, 0) / 8) * 8; break;
-    case 'K': EraseLine(row_, first == 0 ? column_ : 0, first == 1 ? column_ + 1 : columns_); break;
+    case 'A':
+      row_ = std::max(row_ - count, 0);
+      break;
+    case 'B':
+      row_ = std::min(row_ + count, rows_ - 1);
+      break;
+    case 'C':
+      column_ = std::min(column_ + count, columns_ - 1);
+      break;
+    case 'D':
+      column_ = std::max(column_ - count, 0);
+      break;
+    case 'G':
+      column_ = std::min(count, columns_) - 1;
+      break;
+    case 'd':
+      row_ = std::min(count, rows_) - 1;
+      break;
+    case 'Z':
+      column_ = (std::max(column_ - 1, 0) / 8) * 8;
+      break;
+    case 'K':
+      EraseLine(row_, first == 0 ? column_ : 0, first == 1 ? column_ + 1 : columns_);
+      break;
     case 'J':
       if (first == 0) EraseLine(row_, column_, columns_);
       for (int row = first == 0 ? row_ + 1 : 0; row < rows_; ++row) EraseLine(row, 0, columns_);
       break;
-    case 'X': EraseLine(row_, column_, column_ + count); break;
+    case 'X':
+      EraseLine(row_, column_, column_ + count);
+      break;
     case 'P':
       line.erase(cell, static_cast<std::size_t>(count));
       line.resize(columns, U' ');
@@ -188,10 +226,18 @@ void VtScreen::Sequence(char final, const std::string& parameters) {
       line.insert(cell, static_cast<std::size_t>(count), U' ');
       line.resize(columns);
       break;
-    case 'L': ScrollDown(row_, std::min(count, rows_)); break;
-    case 'M': ScrollUp(row_, std::min(count, rows_)); break;
-    case 'S': ScrollUp(top_, std::min(count, rows_)); break;
-    case 'T': ScrollDown(top_, std::min(count, rows_)); break;
+    case 'L':
+      ScrollDown(row_, std::min(count, rows_));
+      break;
+    case 'M':
+      ScrollUp(row_, std::min(count, rows_));
+      break;
+    case 'S':
+      ScrollUp(top_, std::min(count, rows_));
+      break;
+    case 'T':
+      ScrollDown(top_, std::min(count, rows_));
+      break;
     case 'b':
       for (int i = 0; i < count; ++i) Put(last_);
       break;
@@ -200,7 +246,8 @@ void VtScreen::Sequence(char final, const std::string& parameters) {
       bottom_ = (second == 0 ? rows_ : std::min(second, rows_)) - 1;
       row_ = column_ = 0;
       break;
-    default: break;
+    default:
+      break;
   }
 }
 

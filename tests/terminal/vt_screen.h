@@ -26,7 +26,7 @@ class VtScreen {
   void Escape(std::string_view sequence);
   void Sequence(char final, const std::string& parameters);
   void EraseLine(int row, int from, int to);
-  void ScrollUp(int top, int lines);    // lines leave at the top of the region
+  void ScrollUp(int top, int lines);  // lines leave at the top of the region
   void ScrollDown(int top, int lines);
   void LineFeed();
 
@@ -35,12 +35,12 @@ class VtScreen {
   std::vector<std::u32string> cells_;
   int row_ = 0;
   int column_ = 0;
-  int top_ = 0;     // of the region that scrolls
+  int top_ = 0;  // of the region that scrolls
   int bottom_ = 0;
   bool isWrapPending_ = false;
   bool drawsLines_ = false;  // the character set of lines is in use
   char32_t last_ = U' ';
-  std::string rest_;         // of a sequence or a character that has not come whole
+  std::string rest_;  // of a sequence or a character that has not come whole
 };
 
 }  // namespace veld::testing
