@@ -733,7 +733,12 @@ std::size_t NamedControl(const Form& form, std::size_t label) {
   const std::size_t none = controls.size();
   const std::size_t right = Neighbour(form, label, false);
   if (right < none && CanBeUsed(controls[right].Template.Kind)) return right;
-  if (right < none && controls[right].Template.Kind == ControlKind::Result) return none;
+  if (right < none && controls[right].Template.Kind == ControlKind::Result) {
+    // What the character has may stand between a label and the field to type in.
+    std::size_t field = right;
+    while (field < none && controls[field].Template.Kind == ControlKind::Result) field = Neighbour(form, field, false);
+    return field < none && IsField(controls[field].Template.Kind) ? field : none;
+  }
   const std::size_t below = Vertical(form, label, 1);
   return below < none && CanBeUsed(controls[below].Template.Kind) ? below : none;
 }
@@ -747,7 +752,8 @@ std::string ControlName(const Form& form, std::size_t control) {
     if (IsCaption(kind) || (self == ControlKind::Result && kind == ControlKind::Button))
       return ShownText(controls[left]);
     // A row of fields, or of results, is named by the one label before them.
-    if (!(IsField(self) && IsField(kind)) && !(self == ControlKind::Result && kind == self)) break;
+    const bool isOfRow = kind == ControlKind::Result || (IsField(self) && IsField(kind));
+    if (!(IsField(self) || self == ControlKind::Result) || !isOfRow) break;
   }
   const std::size_t above = Vertical(form, control, -1);
   if (above == none || !IsCaption(controls[above].Template.Kind)) return {};

@@ -45,6 +45,11 @@ std::vector<std::string> MarkMnemonics(const Form& form, std::string_view taken)
   std::vector<std::string> texts;
   for (const Control& control : form.Controls()) {
     texts.push_back(control.Text);
+    const bool isLabel = control.Template.Kind == ControlKind::Label;
+    if (isLabel && NamedControl(form, texts.size() - 1) == form.Controls().size()) {
+      texts.back() = WithoutMnemonic(control.Text);  // there is nothing for a letter to reach
+      continue;
+    }
     const std::size_t marked = MarkedLetter(control.Text);
     if (HasMnemonic(control.Template.Kind) && marked != std::string_view::npos)
       used.insert(Lower(control.Text[marked]));

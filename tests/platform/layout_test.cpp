@@ -251,6 +251,20 @@ TEST(Layout, LabelsNameTheControlsTheyStandBy) {
   EXPECT_EQ(NamedControl(step, 2), 5u) << "a label of a result leads nowhere";
 }
 
+TEST(Layout, AResultMayStandBetweenALabelAndItsField) {
+  constexpr ControlTemplate kRow[] = {
+      LabelAt(0, 0, "&Pick Pockets"), ResultAt(0, 1, 10, 6), NumberAt(0, 2, 11),
+      LabelAt(1, 0, "&Score"),        ResultAt(1, 1, 12, 6), ButtonAt(1, 2, 13, "Roll"),
+  };
+  const Form form(FormTemplate{"Row", "Row", kRow});
+  EXPECT_EQ(NamedControl(form, 0), 2u);
+  EXPECT_EQ(ControlName(form, 2), "Pick Pockets");
+  EXPECT_EQ(NamedControl(form, 3), 6u) << "a button has a name of its own";
+  const auto marked = MarkMnemonics(form, "");
+  EXPECT_EQ(marked[0], "&Pick Pockets");
+  EXPECT_EQ(marked[3], "Score") << "no letter is marked that reaches nothing";
+}
+
 TEST(Mnemonics, EveryControlHasALetterOfItsOwn) {
   Form form(kTemplate);
   const std::vector<std::string> texts = MarkMnemonics(form, "m");
