@@ -3,9 +3,9 @@
 #include <benchmark/benchmark.h>
 
 #include "silent_platform.h"
-#include "steps/class_choice.h"
-#include "steps/class_recalculation.h"
-#include "steps/race_choice.h"
+#include "steps/classes/class_choice.h"
+#include "steps/classes/class_recalculation.h"
+#include "steps/race/race_choice.h"
 
 namespace veld {
 namespace {

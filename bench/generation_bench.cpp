@@ -5,10 +5,10 @@
 #include <fstream>
 #include <sstream>
 
+#include "generation/sequencer.h"
 #include "rules/race_table.h"
-#include "shell/sequencer.h"
 #include "silent_platform.h"
-#include "steps/step_three.h"
+#include "steps/race/step_three.h"
 #include "store/side_files.h"
 
 namespace veld {

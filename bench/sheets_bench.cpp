@@ -9,7 +9,7 @@
 #include "sheets/tab_sheet.h"
 #include "sheets/text_sheet.h"
 #include "silent_platform.h"
-#include "steps/class_recalculation.h"
+#include "steps/classes/class_recalculation.h"
 #include "store/file_layout.h"
 #include "store/game.h"
 #include "store/safe_file.h"

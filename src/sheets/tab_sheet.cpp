@@ -1,7 +1,7 @@
 #include "sheets/tab_sheet.h"
 
 #include "sheets/sheet_content.h"
-#include "steps/proficiency_purchase.h"
+#include "steps/skills/proficiency_purchase.h"
 #include "text/format.h"
 #include "text/search.h"
 

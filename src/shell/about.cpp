@@ -1,6 +1,6 @@
 #include "shell/about.h"
 
-#include "shell/main_title.h"
+#include "generation/main_title.h"
 
 namespace veld {
 

@@ -2,13 +2,13 @@
 
 #include "dice/dice.h"
 #include "dice/dice_tester.h"
+#include "generation/main_title.h"
+#include "generation/save_by_extension.h"
+#include "generation/sequencer.h"
 #include "shell/about.h"
-#include "shell/main_title.h"
 #include "shell/options_dialog.h"
 #include "shell/recover_dialog.h"
-#include "shell/save_by_extension.h"
-#include "shell/sequencer.h"
-#include "steps/step_three.h"
+#include "steps/race/step_three.h"
 #include "store/recovery.h"
 
 namespace veld {

@@ -1,8 +1,8 @@
 #include "shell/veld.h"
 
+#include "generation/main_title.h"
 #include "shell/data_folder.h"
 #include "shell/main_menu.h"
-#include "shell/main_title.h"
 #include "shell/start_up.h"
 #include "store/recovery.h"
 

@@ -11,7 +11,7 @@
 #include "sheets/sheet_save.h"
 #include "sheets/tab_sheet.h"
 #include "sheets/text_sheet.h"
-#include "steps/class_recalculation.h"
+#include "steps/classes/class_recalculation.h"
 #include "store/character_file.h"
 #include "store/side_files.h"
 #include "support/scripted_platform.h"

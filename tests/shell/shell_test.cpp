@@ -2,12 +2,12 @@
 
 #include <filesystem>
 
+#include "generation/save_by_extension.h"
+#include "generation/sequencer.h"
 #include "rules/quirk_table.h"
 #include "shell/data_folder.h"
 #include "shell/main_menu.h"
 #include "shell/options_dialog.h"
-#include "shell/save_by_extension.h"
-#include "shell/sequencer.h"
 #include "shell/start_up.h"
 #include "store/side_files.h"
 #include "support/scripted_platform.h"

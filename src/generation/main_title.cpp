@@ -1,0 +1,9 @@
+#include "generation/main_title.h"
+
+namespace veld {
+
+void UpdateMainTitle(Game& game, std::string_view name) {
+  game.platform.SetMainTitle(Format("%s - %s - is in memory", kProgramTitle, DisplayText(name)));
+}
+
+}  // namespace veld

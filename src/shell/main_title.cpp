@@ -1,9 +1,0 @@
-#include "shell/main_title.h"
-
-namespace veld {
-
-void UpdateMainTitle(Game& game, std::string_view name) {
-  game.platform.SetMainTitle(Format("%s - %s - is in memory", kProgramTitle, DisplayText(name)));
-}
-
-}  // namespace veld

@@ -1,0 +1,202 @@
+#include "steps/classes/allotments.h"
+
+#include <algorithm>
+
+#include "rules/thief_tables.h"
+
+namespace veld {
+
+namespace {
+
+static_assert(kThiefAbilities == kThiefAbilityCount);
+
+constexpr int kOk = 1;
+constexpr int kAbort = 2;
+constexpr int kFirstTotal = 10;
+constexpr int kPointsText = 150;
+constexpr int kLimitText = 151;
+constexpr int kFirstEntry = 3000;
+
+constexpr int kThiefRow = 16;
+constexpr int kAssassinRow = 17;
+constexpr int kBardRow = 18;
+constexpr int kBountyHunterRow = 60;
+constexpr int kFirstSwindlerRow = 116;  ///< the thieves of the Swindler's Almanac
+constexpr int kLastSwindlerRow = 122;
+
+constexpr int kThiefLimit = 30;
+constexpr int kLowThiefLimit = 15;
+constexpr int kFewPoints = 35;
+
+constexpr std::array<int, 9> kThiefList = {kPickPockets,   kOpenLocks,   kFindTraps,  kRemoveTraps,  kMoveSilently,
+                                           kHideInShadows, kDetectNoise, kClimbWalls, kReadLanguages};
+constexpr std::array<int, 4> kBardList = {kClimbWalls, kDetectNoise, kPickPockets, kReadLanguages};
+constexpr std::array<int, 4> kBountyHunterList = {kFindTraps, kRemoveTraps, kMoveSilently, kHideInShadows};
+
+constexpr std::string_view kThiefLabels[] = {"&Pick Pockets", "O&pen Locks",    "&Find Traps",
+                                             "&Remove Traps", "&Move Silently", "&Hide in Shadows",
+                                             "Detect &Noise", "&Climb Walls",   "Read &Languages"};
+constexpr std::string_view kBardLabels[] = {"&Climb Walls", "&Detect Noise", "&Pick Pockets", "&Read Languages"};
+constexpr std::string_view kBountyHunterLabels[] = {"&Find Traps", "&Remove Traps", "&Move Silently",
+                                                    "&Hide in Shadows"};
+
+/// A row for each ability: what it is, its total so far, and the points to add.
+template <std::size_t N>
+constexpr auto AllotmentControls(std::string_view title, const std::string_view (&labels)[N], bool hasAbort) {
+  constexpr int kFirstRow = 4;
+  std::array<ControlTemplate, 3 * N + 7> controls{};
+  std::size_t next = 0;
+  controls[next++] = TitleAt(0, 0, title, 3);
+  controls[next] = ResultAt(1, 0, kPointsText, 40, "You have 20 points to spend");
+  controls[next++].ColumnSpan = 3;
+  controls[next] = ResultAt(2, 0, kLimitText, 40);
+  controls[next++].ColumnSpan = 3;
+  controls[next++] = LabelAt(3, 1, "Total %");
+  controls[next++] = LabelAt(3, 2, "Points");
+  for (std::size_t i = 0; i < N; ++i) {
+    const int place = static_cast<int>(i);
+    controls[next++] = LabelAt(kFirstRow + place, 0, labels[i]);
+    controls[next++] = ResultAt(kFirstRow + place, 1, kFirstTotal + place, 6);
+    controls[next++] = NumberAt(kFirstRow + place, 2, kFirstEntry + place, 6);
+  }
+  const int lastRow = kFirstRow + static_cast<int>(N) + 1;
+  controls[next] = ButtonAt(lastRow, 0, kOk, "&OK", ButtonRole::Default);
+  controls[next++].ColumnSpan = 3;
+  controls[next] = ButtonAt(lastRow, 0, kAbort, "&Abort", ButtonRole::Cancel);
+  controls[next].Visible = hasAbort;
+  controls[next].Enabled = hasAbort;
+  controls[next].ColumnSpan = 3;
+  return controls;
+}
+
+constexpr auto kThiefControls = AllotmentControls("Thief Abilities", kThiefLabels, true);
+constexpr auto kBardControls = AllotmentControls("Bard Abilities", kBardLabels, false);
+constexpr auto kBountyHunterControls = AllotmentControls("Bounty Hunter Abilities", kBountyHunterLabels, false);
+constexpr FormTemplate kThief{"ThiefAbilities", "Thief Abilities", kThiefControls};
+constexpr FormTemplate kBard{"BardAbilities", "Bard Abilities", kBardControls};
+constexpr FormTemplate kBountyHunter{"BountyHunterAbilities", "Bounty Hunter Abilities", kBountyHunterControls};
+
+const FormTemplate& TemplateOf(Allotment allotment) {
+  if (allotment == Allotment::Bard) return kBard;
+  return allotment == Allotment::BountyHunter ? kBountyHunter : kThief;
+}
+
+ThiefAbility& AbilityScores(CharacterSheet& sheet, int ability) {
+  return ThiefAbilityAt(sheet, static_cast<std::size_t>(ability));
+}
+
+void SumAbility(ThiefAbility& scores) {
+  std::int64_t sum = 0;
+  for (std::size_t level = 0; level < kLevelSum; ++level) sum += scores[level];
+  scores[kLevelSum] = SaturateToInt(sum);
+}
+
+/// The most points that one ability takes.
+std::int64_t EntryLimit(Allotment allotment, int points) {
+  switch (allotment) {
+    case Allotment::Thief:
+      return points <= kFewPoints ? kLowThiefLimit : kThiefLimit;
+    case Allotment::BountyHunter:
+      return points / 2;
+    default:
+      return kLargestEntry;
+  }
+}
+
+std::int64_t SumOf(std::span<const std::int64_t> entries) {
+  std::int64_t sum = 0;
+  for (const std::int64_t entry : entries) sum += entry;
+  return sum;
+}
+
+void ShowAllotment(Game& game, Form& form, Allotment allotment) {
+  const auto abilities = AllottedAbilities(allotment);
+  const std::int64_t limit = EntryLimit(allotment, game.run.ThiefPointsToSpend);
+  form.SetText(kPointsText, Format("You have %i points to spend", game.run.ThiefPointsToSpend));
+  if (limit < kLargestEntry) form.SetText(kLimitText, Format("At most %i points in one ability", limit));
+  for (std::size_t i = 0; i < abilities.size(); ++i) {
+    const int place = static_cast<int>(i);
+    form.SetNumber(kFirstTotal + place, AbilityScores(game.sheet, abilities[i])[kLevelSum]);
+    form.SetNumber(kFirstEntry + place, 0);
+  }
+}
+
+}  // namespace
+
+void SetThiefBaseScores(Game& game) {
+  CharacterSheet& sheet = game.sheet;
+  const auto base = ThiefBaseScores(sheet.ClassName, sheet.RaceName, sheet.Dexterity.Whole);
+  for (std::size_t ability = 0; ability < kThiefAbilities; ++ability) {
+    ThiefAbilityAt(sheet, ability)[0] = base[ability];
+    ThiefAbilityAt(sheet, ability)[kLevelSum] = 0;
+  }
+}
+
+void SumThiefAbilities(Game& game) {
+  for (std::size_t ability = 0; ability < kThiefAbilities; ++ability) SumAbility(ThiefAbilityAt(game.sheet, ability));
+}
+
+Allotment AllotmentOf(int classRow) {
+  if (classRow == kThiefRow || classRow == kAssassinRow) return Allotment::Thief;
+  if (classRow >= kFirstSwindlerRow && classRow <= kLastSwindlerRow) return Allotment::Thief;
+  if (classRow == kBardRow) return Allotment::Bard;
+  return classRow == kBountyHunterRow ? Allotment::BountyHunter : Allotment::None;
+}
+
+std::span<const int> AllottedAbilities(Allotment allotment) {
+  switch (allotment) {
+    case Allotment::Thief:
+      return kThiefList;
+    case Allotment::Bard:
+      return kBardList;
+    case Allotment::BountyHunter:
+      return kBountyHunterList;
+    case Allotment::None:
+      break;
+  }
+  return {};
+}
+
+std::size_t AllotmentSlot(const CharacterSheet& sheet, Allotment allotment, int classRow) {
+  const int plainThief = sheet.ClassLevels[kThiefRow];
+  const bool atThief = allotment == Allotment::Thief && plainThief > 0;
+  const int level = atThief ? plainThief : sheet.ClassLevels[static_cast<std::size_t>(classRow)];
+  return static_cast<std::size_t>(std::clamp(level, 0, kHighestLevel));
+}
+
+bool PlaceThiefPoints(Game& game, Allotment allotment, int classRow, std::span<const std::int64_t> entries) {
+  const auto abilities = AllottedAbilities(allotment);
+  const std::int64_t limit = EntryLimit(allotment, game.run.ThiefPointsToSpend);
+  const bool areInside = std::ranges::all_of(entries, [&](std::int64_t entry) { return entry >= 0 && entry <= limit; });
+  if (entries.size() != abilities.size() || !areInside || SumOf(entries) != game.run.ThiefPointsToSpend) return false;
+  const std::size_t slot = AllotmentSlot(game.sheet, allotment, classRow);
+  for (std::size_t i = 0; i < abilities.size(); ++i) {
+    int& placed = AbilityScores(game.sheet, abilities[i])[slot];
+    placed = SaturateToInt(placed + entries[i]);
+  }
+  return true;
+}
+
+void RunAllotment(Game& game, int classRow) {
+  const Allotment allotment = AllotmentOf(classRow);
+  if (allotment == Allotment::None) return;
+  const auto abilities = AllottedAbilities(allotment);
+  SetThiefBaseScores(game);
+  for (const int ability : abilities) SumAbility(AbilityScores(game.sheet, ability));
+  Form form(TemplateOf(allotment));
+  form.onOpened = [&] { ShowAllotment(game, form, allotment); };
+  form.onCommand = [&](int id) {
+    if (id == kAbort) {
+      game.run.CurrentStep = 1;
+      return form.Close();
+    }
+    std::vector<std::int64_t> entries;
+    for (std::size_t i = 0; i < abilities.size(); ++i)
+      entries.push_back(form.Number(kFirstEntry + static_cast<int>(i)));
+    if (PlaceThiefPoints(game, allotment, classRow, entries)) return form.Close();
+    form.SetText(kPointsText, Format("You have %i points left to spend", game.run.ThiefPointsToSpend - SumOf(entries)));
+  };
+  game.platform.RunForm(form);
+}
+
+}  // namespace veld

@@ -1,0 +1,70 @@
+#include "steps/classes/take_after.h"
+
+#include "steps/quirks/quirk_effects.h"
+#include "steps/race/race_choice.h"
+
+namespace veld {
+
+namespace {
+
+constexpr int kYes = 1;
+constexpr int kNo = 2;
+constexpr int kRaces = 3115;
+
+constexpr std::string_view kTitle = "Do you wish to take the Take After Talent for 30 BP?";
+
+constexpr ControlTemplate kTakeAfterControls[] = {
+    HeadingAt(0, 0, kTitle, 2),
+    LabelAt(2, 0, "&Race to take after"),
+    ComboAt(2, 1, kRaces, 24),
+    ButtonAt(4, 1, kYes, "&Yes", ButtonRole::Default),
+    ButtonAt(4, 1, kNo, "&NO", ButtonRole::Cancel),
+};
+constexpr FormTemplate kTakeAfter{"TakeAfter", kTitle, kTakeAfterControls};
+
+constexpr std::string_view kOfDarkmen[] = {"Human", "Elf, Drow"};
+constexpr std::string_view kOfHalfElves[] = {"Human", "Elf, High", "Elf, Wood", "Elf, Drow", "Elf, Grel", "Elf, Grey"};
+constexpr std::string_view kOfHalfOrcs[] = {"Orc", "Human"};
+constexpr std::string_view kOfHalfOgres[] = {"Ogre", "Human"};
+constexpr std::string_view kOfGnomelings[] = {"Gnome",           "Gnome Titan",          "Halfling, Hairfoot",
+                                              "Halfling, Stout", "Halfling, Tallfellow", "Halfling, Thug"};
+
+}  // namespace
+
+std::span<const std::string_view> TakeAfterRaces(std::string_view race) {
+  if (race == "Darkmen") return kOfDarkmen;
+  if (race == "Half-elf") return kOfHalfElves;
+  if (race == "Half-orc") return kOfHalfOrcs;
+  if (race == "Half-ogre") return kOfHalfOgres;
+  if (race == "Gnomeling") return kOfGnomelings;
+  return {};
+}
+
+void TakeAfter(Game& game, std::string_view race) {
+  if (race.empty()) return;
+  game.sheet.TalentDetailNames[2][0] = race;
+  game.sheet.TalentDetailCounts[2][0] = 1;
+  game.run.BuildingPoints -= kTakeAfterCost;
+  BindRaceRow(game);
+  BarClassesForQuirks(game);
+}
+
+void RunTakeAfter(Game& game) {
+  const auto races = TakeAfterRaces(game.sheet.RaceName);
+  if (races.empty()) return;
+  Form form(kTakeAfter);
+  form.onOpened = [&] {
+    form.SetItems(kRaces, {races.begin(), races.end()});
+    form.Select(kRaces, 0);
+  };
+  form.onCommand = [&](int id) {
+    if (id == kYes) {
+      if (form.Selection(kRaces) < 0) return;
+      TakeAfter(game, form.SelectedText(kRaces));
+    }
+    form.Close();
+  };
+  game.platform.RunForm(form);
+}
+
+}  // namespace veld

@@ -1,0 +1,110 @@
+#include "steps/finish/alignment.h"
+
+#include <array>
+#include <string>
+
+#include "rules/class_table.h"
+#include "text/format.h"
+#include "text/search.h"
+
+namespace veld {
+
+namespace {
+
+enum : int { kOk = 1, kAbort = 2, kAlignments = 4046 };
+
+// Rows of the quirk table.
+constexpr std::size_t kNaggingConscience = 64;
+constexpr std::size_t kJerk = 91;
+
+constexpr std::string_view kNotPicked = "Please Pick";
+
+constexpr std::size_t kNeutral = 4;
+constexpr std::array<std::string_view, kAlignmentCount> kAlignmentNames = {
+    "Lawful-good  ",  "Lawful-neutral  ", "Lawful-evil  ",     "Neutral-good  ", "Neutral  ",
+    "Neutral-evil  ", "Chaotic-good  ",   "Chaotic-neutral  ", "Chaotic-evil  "};
+
+constexpr ControlTemplate kStepFourteenControls[] = {
+    TitleAt(0, 0, "Step 14: Choose an Alignment"),
+    ListAt(1, 0, kAlignments, 32, 9),
+    ButtonAt(2, 0, kOk, "&OK", ButtonRole::Default),
+    ButtonAt(2, 0, kAbort, "&Abort", ButtonRole::Cancel),
+};
+constexpr FormTemplate kStepFourteen{"StepFourteen", "Step 14", kStepFourteenControls};
+
+/// A row in which levels can be gained; the rows of combinations and the blank ones are none.
+bool IsRealClass(const ClassRecord& row) {
+  return row.ExperienceForLevel[2] > 0;
+}
+
+void GainQuirk(Game& game, std::size_t row, std::string_view name, std::string_view sentence) {
+  game.sheet.QuirkCounts[row] = 1;
+  game.platform.ShowMessage(Format("You just gained the %s quirk", name));
+  game.sheet.OccupationEvents = std::string(game.sheet.OccupationEvents.View()) + std::string(sentence);
+}
+
+void FillAlignmentBox(Game& game, Form& form, const std::vector<std::string_view>& names) {
+  form.SetItems(kAlignments, {names.begin(), names.end()});
+  const std::size_t posted = form.Items(kAlignments).size();
+  if (posted >= names.size()) return;
+  game.platform.ShowMessage(
+      Format("There was a problem in function FillAlignListBox. %i items were sent and only %i were posted",
+             names.size(), posted),
+      "FillAlignmentBox");
+}
+
+/// Returns false, with the player told, while nothing is picked.
+bool FinishAlignment(Game& game) {
+  if (EqualsIgnoringCase(game.sheet.Alignment, kNotPicked)) {
+    game.platform.ShowMessage("You must pick an Alignment");
+    return false;
+  }
+  ApplyAlignmentQuirks(game);
+  game.run.CurrentStep = 15;
+  return true;
+}
+
+}  // namespace
+
+std::vector<std::string_view> OpenAlignmentNames(const Game& game) {
+  const std::string_view className = game.sheet.ClassName;
+  std::array<int, kAlignmentCount> allowing{};
+  int classes = 0;
+  for (const ClassRecord& row : ClassTable()) {
+    if (!IsRealClass(row) || !Contains(className, row.Name)) continue;
+    ++classes;
+    for (std::size_t i = 0; i < allowing.size(); ++i) allowing[i] += row.AlignmentFlags[i];
+  }
+  std::vector<std::string_view> names;
+  for (std::size_t i = 0; i < allowing.size(); ++i) {
+    const bool isDruidsOwn = i == kNeutral && Contains(className, "Druid");
+    if (allowing[i] == classes || isDruidsOwn) names.push_back(kAlignmentNames[i]);
+  }
+  return names;
+}
+
+void ApplyAlignmentQuirks(Game& game) {
+  const bool isGood = Contains(game.sheet.Alignment, "good");
+  if (game.run.RiotVolunteer == 1 && !isGood) {
+    GainQuirk(game, kJerk, "Jerk", " You ended up becoming a jerk.");
+  }
+  if (game.run.VigilBuster == 1 && isGood) {
+    GainQuirk(game, kNaggingConscience, "Nagging Conscience", " You ended up with a nagging conscience.");
+  }
+}
+
+void RunStepFourteen(Game& game) {
+  Form form(kStepFourteen);
+  const std::vector<std::string_view> names = OpenAlignmentNames(game);
+  form.onOpened = [&] { FillAlignmentBox(game, form, names); };
+  form.onSelect = [&](int id) {
+    const int selected = form.Selection(kAlignments);
+    if (id == kAlignments && selected >= 0) game.sheet.Alignment = names[static_cast<std::size_t>(selected)];
+  };
+  form.onCommand = [&](int id) {
+    if (id == kAbort || (id == kOk && FinishAlignment(game))) form.Close();
+  };
+  game.platform.RunForm(form);
+}
+
+}  // namespace veld

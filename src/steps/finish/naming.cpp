@@ -1,0 +1,51 @@
+#include "steps/finish/naming.h"
+
+#include "text/search.h"
+
+namespace veld {
+
+namespace {
+
+enum : int { kOk = 1, kAbort = 2, kCharacterName = 3000, kPlayerName = 3001 };
+
+/// CharacterName of a character that nobody has named.
+constexpr std::string_view kUnnamed = "name";
+
+constexpr ControlTemplate kStepEightteenControls[] = {
+    TitleAt(0, 0, "Step 18: Name your character", 2),
+    LabelAt(1, 0, "Character &Name"),
+    EditAt(1, 1, kCharacterName, 44, static_cast<int>(decltype(CharacterSheet::CharacterName)::kWidth) - 1),
+    LabelAt(2, 0, "&Player Name"),
+    EditAt(2, 1, kPlayerName, 44, static_cast<int>(decltype(CharacterSheet::PlayerName)::kWidth) - 1),
+    ButtonAt(3, 0, kOk, "&OK", ButtonRole::Default),
+    ButtonAt(3, 0, kAbort, "&Abort", ButtonRole::Cancel),
+};
+constexpr FormTemplate kStepEightteen{"StepEightteen", "Step 18: Name your character", kStepEightteenControls};
+
+}  // namespace
+
+bool NameCharacter(Game& game, std::string_view characterName, std::string_view playerName) {
+  if (EqualsIgnoringCase(characterName, kUnnamed)) return false;
+  game.sheet.CharacterName = characterName;
+  game.sheet.PlayerName = playerName;
+  return true;
+}
+
+void RunStepEightteen(Game& game) {
+  Form form(kStepEightteen);
+  form.onOpened = [&] {
+    form.SetText(kCharacterName, game.sheet.CharacterName);
+    form.SetText(kPlayerName, game.sheet.PlayerName);
+    form.Focus(kCharacterName);
+  };
+  form.onCommand = [&](int id) {
+    if (id == kOk) {
+      if (!NameCharacter(game, form.Text(kCharacterName), form.Text(kPlayerName))) return;  // stays without a word
+      game.run.CurrentStep = 19;
+    }
+    form.Close();
+  };
+  game.platform.RunForm(form);
+}
+
+}  // namespace veld

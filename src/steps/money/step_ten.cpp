@@ -1,0 +1,109 @@
+#include "steps/money/step_ten.h"
+
+#include "steps/money/money_bp.h"
+#include "steps/money/starting_money.h"
+
+namespace veld {
+
+namespace {
+
+enum : int {
+  kOk = 1,
+  kAbort = 2,
+  kMoneyText = 55,
+  kBuildingPoints = 90,
+  kAge = 91,
+  kMoney = 92,
+  kRollMoney = 4002,
+  kRollAge = 6078
+};
+
+constexpr int kNumberWidth = 10;
+
+/// The race whose training takes no years: its age is as it is, and the button does nothing.
+constexpr std::string_view kPixieFairy = "Pixie Fairy";
+
+constexpr ControlTemplate kStepTenControls[] = {
+    TitleAt(0, 0, "Step 10: Finish Background", 3),
+    LabelAt(1, 1, "Building Points:"),
+    ResultAt(1, 2, kBuildingPoints, kNumberWidth),
+    ButtonAt(2, 0, kRollAge, "&Class Adjusted Age"),
+    LabelAt(2, 1, "Age:"),
+    ResultAt(2, 2, kAge, kNumberWidth),
+    ButtonAt(3, 0, kRollMoney, "Starting &Money"),
+    LabelAt(3, 1, "Money:"),
+    ResultAt(3, 2, kMoney, kNumberWidth),
+    HeadingAt(4, 0, "Money Special", 3),
+    TextAt(5, 0, kMoneyText, "", 58, 2, 1, 3),
+    ButtonAt(6, 0, kOk, "&OK", ButtonRole::Default),
+    ButtonAt(6, 0, kAbort, "&Abort", ButtonRole::Cancel),
+};
+constexpr FormTemplate kStepTen{"StepTen", "Step 10", kStepTenControls};
+
+/// What has been rolled while the dialog is open. The character's age is written on OK only.
+struct StepTenRolls {
+  bool HasAge = false;
+  bool HasMoney = false;
+  int Age = 0;
+};
+
+void ShowStepTen(const Game& game, const StepTenRolls& rolls, Form& form) {
+  form.SetNumber(kBuildingPoints, TruncateToInt(game.run.BuildingPoints));
+  if (rolls.HasAge) form.SetNumber(kAge, rolls.Age);
+  if (!rolls.HasMoney) return;
+  form.SetNumber(kMoney, game.sheet.GoldPieces);
+  form.SetText(kMoneyText, game.sheet.StartingMoneyText);
+}
+
+void OpenStepTen(Game& game, StepTenRolls& rolls) {
+  game.run.CurrentStep = 0;
+  rolls.HasAge = game.sheet.RaceName == kPixieFairy;
+  rolls.Age = game.sheet.Age;
+}
+
+void PressAge(Game& game, StepTenRolls& rolls) {
+  if (game.sheet.RaceName == kPixieFairy || !PayForRoll(game, !rolls.HasAge)) return;
+  rolls.HasAge = true;
+  rolls.Age = AddSaturated(game.sheet.Age, RollClassAge(game));
+}
+
+/// Returns false if the player aborted.
+bool PressMoney(Game& game, StepTenRolls& rolls) {
+  if (!PayForRoll(game, !rolls.HasMoney)) return true;
+  if (!RunMoneyBP(game)) return false;
+  rolls.HasMoney = true;
+  GenerateStartingMoney(game);
+  return true;
+}
+
+/// Returns false, with the player told, while something is left to roll.
+bool FinishStepTen(Game& game, const StepTenRolls& rolls) {
+  if (!rolls.HasAge || !rolls.HasMoney) {
+    game.platform.ShowMessage("You must finish this section");
+    return false;
+  }
+  game.sheet.Age = rolls.Age;
+  game.run.CurrentStep = 11;
+  return true;
+}
+
+}  // namespace
+
+void RunStepTen(Game& game) {
+  Form form(kStepTen);
+  StepTenRolls rolls;
+  form.onOpened = [&] {
+    OpenStepTen(game, rolls);
+    ShowStepTen(game, rolls, form);
+  };
+  form.onCommand = [&](int id) {
+    if (id == kAbort) return form.Close();
+    if (id == kOk && FinishStepTen(game, rolls)) return form.Close();
+    if (id == kRollAge) PressAge(game, rolls);
+    if (id == kRollMoney && !PressMoney(game, rolls)) return form.Close();
+    ShowStepTen(game, rolls, form);
+  };
+  game.platform.RunForm(form);
+}
+
+}  // namespace veld

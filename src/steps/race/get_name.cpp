@@ -1,0 +1,31 @@
+#include "steps/race/get_name.h"
+
+namespace veld {
+
+namespace {
+
+enum : int { kPrompt = 10, kEntry = 3000, kOk = 1, kCancel = 2 };
+
+constexpr ControlTemplate kGetNameControls[] = {
+    TextAt(0, 0, kPrompt, "", 54, 0),
+    EditAt(1, 0, kEntry, 48, 99),
+    ButtonAt(2, 0, kOk, "OK", ButtonRole::Default),
+    ButtonAt(2, 0, kCancel, "Cancel", ButtonRole::Cancel),
+};
+constexpr FormTemplate kGetName{"GetName", "Choose a name", kGetNameControls};
+
+}  // namespace
+
+std::string AskName(Game& game, std::string_view prompt) {
+  Form form(kGetName);
+  form.SetText(kPrompt, prompt);
+  std::string name;
+  form.onCommand = [&](int id) {
+    if (id == kOk) name = form.Text(kEntry);
+    form.Close();
+  };
+  game.platform.RunForm(form);
+  return name;
+}
+
+}  // namespace veld

@@ -1,0 +1,329 @@
+#include "steps/money/step_ten.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <limits>
+
+#include "rules/class_table.h"
+#include "rules/money_tables.h"
+#include "steps/money/money_bp.h"
+#include "steps/money/starting_money.h"
+#include "support/random_player.h"
+#include "support/scripted_platform.h"
+#include "text/search.h"
+
+namespace veld {
+namespace {
+
+using testing::RandomPlayer;
+using testing::ScriptedPlatform;
+
+constexpr int kOk = 1;
+constexpr int kAbort = 2;
+constexpr int kRollMoney = 4002;
+constexpr int kRollAge = 6078;
+
+void MakeQuiet(Game& game) {
+  game.RuleSwitches[kRollYourOwnDice] = 0;
+  game.dice.LogMode = DiceLogMode::Off;
+  game.dice.RandomState = 4711;
+}
+
+class StepTenTest : public ::testing::Test {
+ protected:
+  StepTenTest() {
+    MakeQuiet(*game);
+    game->run.CurrentStep = 10;
+    game->run.BuildingPoints = 10;
+    game->sheet.RaceName = "Human";
+    game->sheet.ClassName = "Magic-User";
+    game->sheet.Age = 16;
+    game->sheet.SocialClassIndex = 8;
+  }
+
+  /// Plays the step with `act`.
+  void Play(std::function<void(Form&)> act) {
+    platform.ExpectForm("StepTen", std::move(act));
+    RunStepTen(*game);
+  }
+
+  /// Presses the money button and answers with `bp`.
+  void PressMoney(Form& form, std::string bp = "0") {
+    platform.ExpectForm("MoneyBP", [bp = std::move(bp)](Form& money) {
+      money.Type(3000, bp);
+      money.PressDefault();
+    });
+    form.Press(kRollMoney);
+  }
+
+  ScriptedPlatform platform;
+  std::unique_ptr<Game> game = MakeGame(platform);
+};
+
+TEST(MoneyTablesTest, BandsHaveNoHoleButTheOneOfTheBook) {
+  int next = kHighestBrokeTotal + 1;
+  int tier = 0;
+  for (const MoneyBand& band : MoneyBands()) {
+    if (next == 106) ++next;
+    EXPECT_EQ(band.Low, next);
+    EXPECT_GE(band.Tier, tier);
+    next = band.High == std::numeric_limits<int>::max() ? 0 : band.High + 1;
+    tier = band.Tier;
+  }
+  EXPECT_EQ(next, 0);
+  EXPECT_EQ(FindMoneyBand(106), nullptr);
+  EXPECT_EQ(FindMoneyBand(10), nullptr);
+  EXPECT_EQ(FindMoneyBand(std::numeric_limits<int>::max())->Tier, 5);
+
+  next = 1;
+  for (const DebtBand& band : DebtBands()) {
+    EXPECT_EQ(band.Low, next);
+    next = band.High + 1;
+  }
+  EXPECT_EQ(next, 101);
+}
+
+TEST(MoneyTablesTest, EveryClassNameOfTheAgeRowsIsAClassOrAMirrorOfOne) {
+  const auto most = [](std::string_view name) {
+    const auto dice = ClassAgeDice(name);
+    return dice[0].Sides * dice[0].Count + dice[1].Sides * dice[1].Count;
+  };
+  EXPECT_EQ(most("cleric"), 6) << "the case does not matter";
+  EXPECT_EQ(most("Cleric/Berserker"), most("Berserker/Cleric"));
+  EXPECT_EQ(most("Zealot of Thor (Thunorite)"), 6);
+  EXPECT_EQ(most("Sole Practitioner: Conjurer"), 24);
+  EXPECT_EQ(most("Standard Specialist: Illusionist"), 16);
+  EXPECT_EQ(most("Fighter/Illusionist"), 16);
+  EXPECT_EQ(most("Fighter/Thief"), 4);
+  EXPECT_EQ(most("Barbarian"), 0);
+  EXPECT_EQ(most("Assassin"), 0);
+  EXPECT_EQ(most("Acrobat"), 0);
+  EXPECT_EQ(most(""), 0);
+  for (std::size_t row = kFirstMultiClass; row < kClassRows; ++row) {
+    EXPECT_GT(most(ClassTable()[row].Name), 0) << ClassTable()[row].Name;
+  }
+}
+
+TEST_F(StepTenTest, FirstRollsAreFreeAndTheAgeIsWrittenOnOk) {
+  Play([&](Form& form) {
+    EXPECT_EQ(game->run.CurrentStep, 0);
+    form.Press(kOk);
+    form.Press(kRollAge);
+    form.Press(kOk);
+    EXPECT_EQ(platform.messages, (std::vector<std::string>(2, "VELD: You must finish this section")));
+    PressMoney(form);
+    EXPECT_EQ(form.Text(90), "10");
+    EXPECT_EQ(form.Text(92), Format("%i", game->sheet.GoldPieces));
+    EXPECT_EQ(form.Text(55), game->sheet.StartingMoneyText.View());
+    form.Press(kRollAge);
+    EXPECT_EQ(form.Text(90), "9");
+    EXPECT_EQ(game->sheet.Age, 16);
+    const int shown = static_cast<int>(form.Number(91));
+    EXPECT_GE(shown, 18);
+    EXPECT_LE(shown, 32);
+    form.Press(kOk);
+    EXPECT_EQ(game->sheet.Age, shown);
+  });
+  EXPECT_EQ(game->run.CurrentStep, 11);
+}
+
+TEST_F(StepTenTest, WithoutPointsNothingIsRolledAgain) {
+  game->run.BuildingPoints = 0.5F;
+  Play([&](Form& form) {
+    PressMoney(form);
+    PressMoney(form);
+    EXPECT_EQ(game->run.BuildingPoints, -0.5F) << "any fraction pays for a roll";
+    form.Press(kOk);
+    EXPECT_FALSE(form.IsClosed()) << "the age is to be rolled";
+    const std::uint32_t dice = game->dice.RandomState;
+    form.Press(kRollMoney);
+    form.Press(kRollAge);
+    const std::uint32_t afterFirstAge = game->dice.RandomState;
+    EXPECT_NE(afterFirstAge, dice) << "the first age is free";
+    form.Press(kRollAge);
+    EXPECT_EQ(game->dice.RandomState, afterFirstAge);
+    form.Press(kAbort);
+  });
+  EXPECT_EQ(game->run.CurrentStep, 0);
+  EXPECT_EQ(game->sheet.Age, 16);
+}
+
+TEST_F(StepTenTest, APixieFairyKeepsItsAge) {
+  game->sheet.RaceName = "Pixie Fairy";
+  Play([&](Form& form) {
+    form.Press(kRollAge);
+    EXPECT_EQ(form.Text(91), "16");
+    PressMoney(form);
+    form.Press(kOk);
+  });
+  EXPECT_EQ(game->run.CurrentStep, 11);
+  EXPECT_EQ(game->sheet.Age, 16);
+}
+
+TEST_F(StepTenTest, MoneyPointsAreTakenOnlyIfThereAreAsMany) {
+  platform.ExpectForm("MoneyBP", [&](Form& form) {
+    EXPECT_EQ(form.Text(3000), "0");
+    EXPECT_EQ(form.Text(15), "You have 10 BPs.");
+    for (const char* refused : {"11", "-1", "99999999999999999999", "4294967296"}) {
+      form.Type(3000, refused);
+      form.Press(kOk);
+      EXPECT_FALSE(form.IsClosed()) << refused;
+    }
+    form.Type(3000, "10");
+    form.Press(kOk);
+  });
+  EXPECT_TRUE(RunMoneyBP(*game));
+  EXPECT_EQ(game->run.MoneyBPSpent, 10);
+  EXPECT_EQ(game->run.BuildingPoints, 0);
+  EXPECT_TRUE(platform.messages.empty());
+
+  game->run.BuildingPoints = -6;
+  EXPECT_TRUE(SpendMoneyBP(*game, 0)) << "0 is always taken";
+  EXPECT_FALSE(SpendMoneyBP(*game, 1));
+}
+
+TEST_F(StepTenTest, AbortingTheMoneyPointsEndsTheStep) {
+  game->sheet.GoldPieces = 77;
+  Play([&](Form& form) {
+    platform.ExpectForm("MoneyBP", [](Form& money) { money.PressCloseBox(); });
+    form.Press(kRollMoney);
+    EXPECT_TRUE(form.IsClosed());
+  });
+  EXPECT_EQ(game->run.CurrentStep, 1);
+  EXPECT_EQ(game->sheet.GoldPieces, 77);
+}
+
+TEST_F(StepTenTest, TheEndsOfTheMoneyBands) {
+  CharacterSheet& sheet = game->sheet;
+  RollStartingMoney(*game, 116);
+  DescribeInheritance(*game);
+  EXPECT_GE(sheet.GoldPieces, 192);
+  EXPECT_FALSE(sheet.InheritedDeed.Empty());
+
+  RollStartingMoney(*game, 106);
+  DescribeInheritance(*game);
+  EXPECT_EQ(sheet.GoldPieces, 0);
+  EXPECT_EQ(sheet.InheritanceTier, 0);
+  EXPECT_TRUE(sheet.StartingMoneyText.Empty());
+  EXPECT_TRUE(sheet.InheritedWeapon.Empty() && sheet.InheritedArmor.Empty() && sheet.InheritedShieldHelmet.Empty() &&
+              sheet.InheritedMount.Empty() && sheet.InheritedDeed.Empty());
+
+  RollStartingMoney(*game, 10);
+  EXPECT_EQ(sheet.StartingMoneyText, "You are flat broke");
+  RollStartingMoney(*game, 11);
+  EXPECT_GE(sheet.GoldPieces, 21);
+  EXPECT_LE(sheet.GoldPieces, 24);
+
+  RollStartingMoney(*game, 5);
+  EXPECT_EQ(sheet.GoldPieces, 0);
+  EXPECT_EQ(sheet.HereditaryDebt % 10, 0);
+  EXPECT_GE(sheet.HereditaryDebt, 210);
+  EXPECT_EQ(sheet.StartingMoneyText, Format("You have rolled a heriditary debt of %i", sheet.HereditaryDebt));
+}
+
+TEST_F(StepTenTest, EachTierAddsToWhatIsInherited) {
+  constexpr std::pair<int, const char*> kTiers[] = {
+      {101, "You have inherited your father's weapon"},
+      {107, "You have inherited your father's weapon, armor"},
+      {111, "You have inherited your father's weapon, armor, horse"},
+      {500, "You have inherited your father's weapon, armor, horse, and the deed to some land"}};
+  for (int tier = 2; const auto& [total, text] : kTiers) {
+    RollStartingMoney(*game, total);
+    DescribeInheritance(*game);
+    EXPECT_EQ(game->sheet.StartingMoneyText, text);
+    EXPECT_EQ(game->sheet.InheritanceTier, tier);
+    EXPECT_EQ(game->sheet.InheritedShieldHelmet.Empty(), tier < 3);
+    EXPECT_EQ(game->sheet.InheritedMount.Empty(), tier < 4);
+    ++tier;
+  }
+}
+
+TEST_F(StepTenTest, BirthYouthAndPackageChangeTheMoney) {
+  CharacterSheet& sheet = game->sheet;
+  const auto roll = [&](std::string_view package, int modifier, int percent, int orphan) {
+    sheet.PackageName = package;
+    game->run.InheritanceModifier = modifier;
+    game->run.MoneyBonusPercent = percent;
+    sheet.IsOrphan = orphan;
+    game->dice.RandomState = 99;
+    GenerateStartingMoney(*game);
+    return sheet.GoldPieces;
+  };
+  constexpr int kMost = std::numeric_limits<int>::max();
+  const int plain = roll("None", 500, 0, 0);
+  EXPECT_EQ(roll("None", 500, 0, 1), plain / 2);
+  EXPECT_EQ(roll("None", 500, 20, 0), plain + plain * 20 / 100);
+  EXPECT_EQ(roll("None", 500, -250, 0), 0) << "nobody starts with less than nothing";
+  EXPECT_EQ(roll("Noble Warrior", 500, 0, 0), plain + 225);
+  EXPECT_EQ(roll("Nobleman", kMost, kMost, 0), kMost);
+  EXPECT_EQ(roll("None", -kMost, 0, 1), 0);
+  EXPECT_GT(sheet.HereditaryDebt, 0);
+  roll("Rustic Magic-User", 58, 0, 0);
+  EXPECT_EQ(sheet.InheritanceTier, 5) << "58 twice and a die";
+}
+
+TEST_F(StepTenTest, TheLowClassesInheritCursedGoods) {
+  const auto curses = [&](int socialClass) {
+    game->sheet.SocialClassIndex = socialClass;
+    int count = 0;
+    for (int i = 0; i < 400; ++i) count += Contains(RollInheritedGood(*game, InheritanceKind::Weapon), "-1") ? 1 : 0;
+    return count;
+  };
+  EXPECT_GT(curses(1), 10);
+  EXPECT_EQ(curses(8), 0) << "without a modifier nothing is cursed or magic";
+  game->sheet.SocialClassIndex = 12;
+  int magic = 0;
+  for (int i = 0; i < 400; ++i) magic += Contains(RollInheritedGood(*game, InheritanceKind::Shield), "+1") ? 1 : 0;
+  EXPECT_GT(magic, 30);
+}
+
+/// A player whose real dice always come up 1.
+class UnluckyPlayer : public ScriptedPlatform {
+ public:
+  void RunForm(Form& form) override {
+    form.Open();
+    form.Type(3000, "1");
+    form.PressDefault();
+  }
+};
+
+TEST(InheritanceTest, AnEndlessRunOfBadDiceEnds) {
+  UnluckyPlayer platform;
+  const auto game = MakeGame(platform);
+  MakeQuiet(*game);
+  game->RuleSwitches[kRollYourOwnDice] = 1;
+  game->sheet.SocialClassIndex = 1;
+  EXPECT_TRUE(RollInheritedGood(*game, InheritanceKind::Weapon).starts_with("Hand Axe-"));
+}
+
+TEST(StepTenRandomTest, AnyPlayEndsWithASoundPurse) {
+  RandomPlayer player(17);
+  const auto game = MakeGame(player);
+  MakeQuiet(*game);
+  int finished = 0;
+  for (int run = 0; run < 3000; ++run) {
+    game->run = {};
+    game->run.BuildingPoints = static_cast<float>(run % 41) - 8.5F;
+    game->run.InheritanceModifier = run % 7 * 25 - 60;
+    game->run.MoneyBonusPercent = run % 5 * 70 - 140;
+    game->sheet.SocialClassIndex = run % 14;
+    game->sheet.ClassName = ClassTable()[static_cast<std::size_t>(run % kClassRows)].Name;
+    game->sheet.RaceName = run % 9 == 0 ? "Pixie Fairy" : "Elf, Grel";
+    game->sheet.InheritedWeapon.Clear();
+    game->sheet.InheritanceTier = 0;
+    game->sheet.Age = 20;
+    RunStepTen(*game);
+    const int step = game->run.CurrentStep;
+    ASSERT_TRUE(step == 0 || step == 1 || step == 11) << run;
+    ASSERT_GE(game->sheet.GoldPieces, 0) << run;
+    ASSERT_EQ(game->sheet.InheritedWeapon.Empty(), game->sheet.InheritanceTier == 0) << run;
+    ASSERT_TRUE(game->sheet.Age >= 20 && game->sheet.Age <= 44) << run;
+    finished += step == 11 ? 1 : 0;
+  }
+  EXPECT_GT(finished, 1000);
+  EXPECT_TRUE(player.stuckForm.empty()) << player.stuckForm;
+}
+
+}  // namespace
+}  // namespace veld

@@ -1,0 +1,524 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+
+#include "dice/keep_roll.h"
+#include "dice/random.h"
+#include "rules/class_table.h"
+#include "steps/quirks/cherry_pick.h"
+#include "steps/quirks/quirk_effects.h"
+#include "steps/quirks/quirks_and_flaws.h"
+#include "support/scripted_platform.h"
+
+namespace veld {
+namespace {
+
+using testing::ScriptedPlatform;
+
+constexpr int kOk = 1;
+constexpr int kAbort = 2;
+constexpr int kTable = 3115;
+constexpr int kOwed = 3116;
+constexpr int kRollForQuirk = 4001;
+constexpr int kRollBox = 3000;
+constexpr int kRollButton = 4003;
+constexpr int kMinorBox = 3022;
+constexpr int kMajorBox = 3023;
+constexpr int kMinorList = 3024;
+constexpr int kMajorList = 3025;
+constexpr int kAddMinor = 4012;
+constexpr int kRemoveMinor = 4013;
+constexpr int kAddMajor = 4014;
+
+const QuirkRecord& Row(int row) {
+  return QuirkTable()[static_cast<std::size_t>(row)];
+}
+
+class QuirksTest : public ::testing::Test {
+ protected:
+  QuirksTest() {
+    game->RuleSwitches[kRollYourOwnDice] = 0;
+    game->dice.LogMode = DiceLogMode::Off;
+    game->run.CurrentStep = 7;
+  }
+
+  int& Count(int row) { return game->sheet.QuirkCounts[static_cast<std::size_t>(row)]; }
+  int& Earned(int row) { return game->sheet.QuirkBP[static_cast<std::size_t>(row)]; }
+
+  /// A random state from which the table's first roll yields the row.
+  void SeedFor(std::string_view table, int row) {
+    for (std::uint32_t seed = 0; seed < 100'000; ++seed) {
+      game->dice.RandomState = seed;
+      if (RollQuirkRow(*game, table) != row) continue;
+      game->dice.RandomState = seed;
+      return;
+    }
+    FAIL() << "no seed gives row " << row;
+  }
+
+  static void ChooseItem(Form& form, int id, std::string_view item) {
+    const auto& items = form.Items(id);
+    const auto found = std::ranges::find(items, item);
+    ASSERT_NE(found, items.end()) << item;
+    form.Choose(id, static_cast<int>(found - items.begin()));
+  }
+
+  ScriptedPlatform platform;
+  std::unique_ptr<Game> game = MakeGame(platform);
+};
+
+using Tables = std::vector<std::string_view>;
+
+TEST_F(QuirksTest, WhatIsHeldAndOwesRollsBecomesEntriesOfTheWorkList) {
+  game->RuleSwitches[kHexwrightsAlmanac] = 0;
+  game->RuleSwitches[kSwindlersAlmanac] = 0;
+  const int held[] = {11, 24, 102, 2, 34, 274, 1, 571};
+  for (const int row : held) Count(row) = 2;
+  Earned(599) = 5;
+  Earned(600) = 4;
+  const QuirkWork work = OpenQuirkWork(*game);
+  EXPECT_EQ(work.Tables, (Tables{kCodex6A, kWarmonger6A, kDevotee6A, "ADC Animal Antipathy Table", "ADC Allergen Table",
+                                 kTable6B, kTable6B, kTable6H, kTable6H, kTable6B, kTable6C, kTable6O}))
+      << "granted, two rolls on 6C are two on 6B";
+  EXPECT_EQ(PendingQuirkRolls(work), 9);
+  for (const int row : held) EXPECT_EQ(Count(row), row == 1 ? 2 : 0) << row;
+  EXPECT_EQ(Earned(599), 0);
+  EXPECT_EQ(PotentialQuirkBP(*game), 4) << "the last rows are shown though never paid";
+}
+
+TEST_F(QuirksTest, AResultOwesWhatItsKindSays) {
+  const auto owes = [&](int row) {
+    QuirkWork work;
+    TakeQuirkResult(*game, work, row);
+    return work.Tables;
+  };
+  EXPECT_EQ(owes(24), (Tables{kTable6C, kTable6C})) << "rolled, it is 6C";
+  EXPECT_EQ(owes(12), (Tables{kTable6B, kTable6D}));
+  EXPECT_EQ(owes(304), Tables{}) << "a plain flaw";
+  EXPECT_EQ(owes(305), (Tables{"ADC Allergen Table", "ADC Allergen Table"}));
+  EXPECT_EQ(owes(570), Tables{kTable6E});
+  for (const int leadsNowhere : {121, 204, 224, 274, 596}) EXPECT_EQ(owes(leadsNowhere), Tables{}) << leadsNowhere;
+  EXPECT_EQ(owes(73), Tables{});
+  EXPECT_TRUE(
+      platform.Showed("Quirks and Flaws: This flaw 'Enmity toward [class]' falls under the direction of the GM"));
+  for (int row = 1; row <= kLastQuirk; ++row) {
+    const bool isHeld = row == 304 || row == 73;
+    EXPECT_EQ(Count(row), isHeld ? 1 : 0) << row;
+    EXPECT_EQ(Earned(row), isHeld ? Row(row).BPCost : 0) << row;
+  }
+}
+
+TEST_F(QuirksTest, ARepeatIsPaidInFullOnceTheTableIsReadAnew) {
+  QuirkWork work;
+  TakeQuirkResult(*game, work, 17);
+  EXPECT_EQ(game->run.QuirkBPCosts[17], 1);
+  EXPECT_EQ(game->run.QuirkBPCosts[16], 8) << "the rest of its table keeps its price";
+  TakeQuirkResult(*game, work, 275);
+  EXPECT_EQ(game->run.QuirkBPCosts[294], 5);
+  EXPECT_EQ(game->run.QuirkBPCosts[295], 0);
+  ReconcileQuirks(*game);
+  TakeQuirkResult(*game, work, 17);
+  EXPECT_EQ(Earned(17), 10);
+}
+
+TEST_F(QuirksTest, A6AEntryStaysUsesUpARollAndBindsToItsBook) {
+  game->run.QuirkRollsLeft = 4;
+  QuirkWork work = OpenQuirkWork(*game);
+  for (int entry = 1; entry <= 4; ++entry) EXPECT_EQ(RollQuirkWork(*game, work, entry), entry);
+  EXPECT_EQ(game->run.QuirkRollsLeft, 0);
+  EXPECT_EQ(game->sheet.UsesMageBackground + game->sheet.UsesFighterBackground + game->run.UsesThiefBackground +
+                game->sheet.UsesClericBackground,
+            4);
+  const QuirkWork before = work;
+  EXPECT_EQ(RollQuirkWork(*game, work, 0), 0);
+  EXPECT_EQ(RollQuirkWork(*game, work, -1), -1);
+  EXPECT_EQ(work.Tables, before.Tables) << "no 6A roll is left, and no entry is none";
+  EXPECT_EQ(game->run.QuirkRollsLeft, 0);
+}
+
+TEST_F(QuirksTest, ATableWithoutResultsIsToldOnceAndOwesNothing) {
+  Count(15) = 1;
+  QuirkWork work{{kCodex6A, kTable6B, "SWA 6Q", ""}};
+  EXPECT_EQ(RollQuirkWork(*game, work, 2), 1) << "the entry before it is next";
+  EXPECT_EQ(work.Tables, (Tables{kCodex6A, kTable6B, ""}));
+  EXPECT_EQ(platform.messages, std::vector<std::string>{"VELD: The table 'SWA 6Q' has no result left."});
+  RollQuirkWork(*game, work, 2);
+  EXPECT_EQ(PendingQuirkRolls(work), 1);
+  EXPECT_EQ(PotentialQuirkBP(*game), 0);
+}
+
+TEST_F(QuirksTest, WhatIsHeldWipesOutWhatItExcludes) {
+  for (const int row : {5, 9, 10, 14, 20, 26, 27, 28, 29, 30, 35, 38, 46, 49}) Count(row) = Earned(row) = 1;
+  for (const int row : {36, 37, 39, 40, 44}) Count(row) = Earned(row) = 1;
+  Count(15) = Earned(15) = 1;
+  ReconcileQuirks(*game);
+  EXPECT_EQ(PotentialQuirkBP(*game), 6) << "the five, and a bald man";
+  EXPECT_EQ(HeldQuirkNames(*game).size(), 6U);
+  for (const int row : {9, 14, 38, 49}) EXPECT_EQ(QuirkLimit(*game, row), 0) << row;
+
+  game->sheet.Gender = "Female";
+  ReconcileQuirks(*game);
+  ReconcileQuirks(*game);
+  EXPECT_EQ(Count(15) + Earned(15) + QuirkLimit(*game, 15), 0) << "for the rest of the run";
+
+  // A barred row is thrown again without a question, and the counts are what they were.
+  game->run.BuildingPoints = 5;
+  platform.AnswerOthers(Answer::Yes);
+  const auto counts = game->sheet.QuirkCounts;
+  for (int tries = 0; tries < 300; ++tries) {
+    const int row = RollQuirkRow(*game, kTable6D);
+    EXPECT_TRUE(row == 31 || row == 32) << row;
+  }
+  EXPECT_EQ(platform.questions.size(), 300U);
+  EXPECT_EQ(game->sheet.QuirkCounts, counts);
+}
+
+TEST_F(QuirksTest, ARefusedRowCostsABPAndIsRolledAgain) {
+  game->run.BuildingPoints = 1.5F;
+  platform.ExpectQuestion("Reroll costs 1 BP: Keep your result of", Answer::No);
+  platform.ExpectQuestion("Keep your result of", Answer::No);
+  EXPECT_GT(RollQuirkRow(*game, kTable6B), 0);
+  EXPECT_FLOAT_EQ(game->run.BuildingPoints, -0.5F);
+}
+
+TEST_F(QuirksTest, TheDialogShowsWhatIsOwedAndIsLeftOnlyWhenNothingIs) {
+  game->run.QuirkRollsLeft = 7;  // left over from a roll box
+  game->run.CurrentStep = 3;
+  Count(2) = 1;
+  platform.ExpectForm("QuirksandFlaws", [&](Form& form) {
+    form.Press(kAbort);
+    EXPECT_FALSE(form.IsClosed()) << "outside Step 7 there is no Abort";
+    form.Press(kOk);
+    EXPECT_EQ(platform.messages.back(), "Quirks and Flaws: You need to make 0 more 6A rolls and 1 more other rolls");
+    EXPECT_EQ(form.Items(kOwed), std::vector<std::string>{"ADC Animal Antipathy Table"});
+    EXPECT_EQ(form.Text(213), "No 6A roll is left: choose the other table.");
+    ChooseItem(form, kTable, "ADC Animal Antipathy Table");
+    EXPECT_EQ(form.Text(213), "Roll on ADC Animal Antipathy Table");
+    form.Press(kRollForQuirk);
+    EXPECT_EQ(form.Items(kHeldQuirksList).size(), 1U);
+    EXPECT_EQ(form.Text(216), "7");
+    EXPECT_EQ(form.Text(213), "Nothing is left to roll: go on with OK.");
+    form.Press(kOk);
+  });
+  RunQuirksandFlaws(*game);
+  EXPECT_EQ(game->run.CurrentStep, 8);
+}
+
+TEST_F(QuirksTest, AMishapOpensTheSameDialogWithItsOwnRolls) {
+  game->run.CurrentStep = 20;
+  platform.ExpectForm("QuirksandFlawsMage", [&](Form& form) {
+    EXPECT_EQ(form.Items(kOwed), (std::vector<std::string>{std::string(kTable6D), std::string(kTable6D)}));
+    while (!form.Items(kOwed).empty()) {
+      form.Choose(kTable, static_cast<int>(form.Items(kTable).size()) - 1);
+      form.Press(kRollForQuirk);
+    }
+    form.Press(kOk);
+  });
+  RunQuirksandFlawsMage(*game, Tables{kTable6D, kTable6D});
+}
+
+TEST_F(QuirksTest, AFreeQuirkIsTakenFromTheTableChosen) {
+  const auto held = [&](std::string_view table) {
+    int count = 0;
+    for (const int row : QuirkTableRows(table)) count += Count(row);
+    return count;
+  };
+  platform.ExpectForm("MinorQuirk", [](Form& form) { form.Press(4006); });
+  RunMinorQuirk(*game);
+  EXPECT_EQ(held(kTable6F), 1);
+  platform.ExpectForm("MajorQuirk", [](Form& form) { form.Press(4007); });
+  RunMajorQuirk(*game);
+  EXPECT_EQ(held(kTable6G), 1);
+  platform.ExpectForm("MinorQuirk", [](Form& form) { form.PressCloseBox(); });
+  RunMinorQuirk(*game);
+  EXPECT_EQ(held(kTable6H), 1) << "the close box is no way around it";
+  platform.ExpectForm("MajorQuirk", [](Form& form) { form.Press(4009); });
+  RunMajorQuirk(*game);
+  EXPECT_EQ(held(kTable6I), 1);
+}
+
+TEST_F(QuirksTest, EveryOfferedTextStandsForItsOwnRow) {
+  platform.AnswerOthers(Answer::Yes);
+  std::size_t offered = 0;
+  for (int row = 1; row <= kLastQuirk; ++row) {
+    if (Row(row).Kind > kMajorQuirk) continue;
+    ++offered;
+    ASSERT_TRUE(ChangeQuirkPick(*game, ShownQuirkName(row), 1)) << row;
+    ASSERT_EQ(game->run.QuirkPicks[static_cast<std::size_t>(row)], 1) << row;
+    ASSERT_EQ(Earned(row), Row(row).Kind == kMinorQuirk ? 2 : 4) << row;
+  }
+  for (const std::string& name : PickedQuirkNames(*game, kMinorQuirk)) {
+    EXPECT_TRUE(std::ranges::none_of(name, [](char c) { return c >= 0 && c < ' '; })) << name;
+  }
+  ClearQuirkPicks(*game);
+  EXPECT_EQ(OfferedQuirkNames(*game, kMinorQuirk).size() + OfferedQuirkNames(*game, kMajorQuirk).size(), offered);
+  EXPECT_FALSE(ChangeQuirkPick(*game, "", 1));
+  EXPECT_FALSE(ChangeQuirkPick(*game, "no such flaw", 1));
+  EXPECT_FALSE(ChangeQuirkPick(*game, "Albino", -1)) << "there is no pick to take back";
+}
+
+TEST_F(QuirksTest, PicksAreLimitedAskBeforeALockInAndCountOnOk) {
+  const std::string hexwright(Row(306).Name);
+  platform.ExpectForm("CherryPick", [&](Form& form) {
+    form.Press(kAddMinor);  // nothing chosen
+    ChooseItem(form, kMinorBox, "Albino");
+    form.Press(kAddMinor);
+    ChooseItem(form, kMinorBox, hexwright);
+    form.Press(kAddMinor);
+    EXPECT_EQ(form.Items(kMinorList).size(), 1U) << "the lock-in was refused";
+    form.Press(kAddMinor);
+    EXPECT_EQ(form.Items(kMinorList), (std::vector<std::string>{"Albino", hexwright}));
+    EXPECT_EQ(std::ranges::count(form.Items(kMinorBox), "Albino"), 0);
+    ChooseItem(form, kMinorBox, "Lisp");
+    form.Press(kAddMinor);
+    EXPECT_EQ(form.Items(kMinorList).size(), 2U) << "two minor picks at most";
+    ChooseItem(form, kMinorList, hexwright);
+    form.Press(kRemoveMinor);
+    EXPECT_EQ(form.Items(kMinorList).size(), 2U) << "taking it back asks too";
+    ChooseItem(form, kMajorBox, "Mute");
+    form.Press(kAddMajor);
+    form.Press(kOk);
+  });
+  platform.ExpectQuestion("class from the Hexwright's Almanac (single", Answer::No);
+  platform.ExpectQuestion("Class Book Lock-in", Answer::Yes);
+  platform.ExpectQuestion("Class Book Lock-in", Answer::Closed);
+  // The script runs in the order of asking: the form first, then the questions it brings.
+  RunCherryPick(*game);
+  EXPECT_EQ(game->run.CurrentStep, 8);
+  EXPECT_EQ(Count(1) + Count(306) + Count(44), 3);
+  EXPECT_EQ(game->sheet.UsesMageBackground, 1);
+  EXPECT_EQ(game->sheet.MinorFlawPicksLeft, 0);
+  EXPECT_EQ(game->sheet.MajorFlawPicksLeft, 0);
+  PayQuirks(*game);
+  EXPECT_EQ(game->run.BuildingPoints, 8);
+}
+
+TEST_F(QuirksTest, ARollBoxLeadsToTheDiceAndDropsOrKeepsThePicks) {
+  const auto pickAlbino = [&](Form& form, std::string_view rolls, int leaveBy) {
+    ChooseItem(form, kMinorBox, "Albino");
+    form.Press(kAddMinor);
+    form.Type(kRollBox, "10");
+    form.Press(kRollButton);
+    EXPECT_FALSE(form.IsClosed());
+    form.Type(kRollBox, rolls);
+    form.Press(leaveBy);
+  };
+  const auto abort = [](Form& form) { form.Press(kAbort); };
+
+  platform.ExpectForm("CherryPick", [&](Form& form) { pickAlbino(form, "3", kRollButton); });
+  platform.ExpectForm("QuirksandFlaws", [&](Form& form) {
+    EXPECT_EQ(form.Text(211), "3");
+    form.Press(kAbort);
+  });
+  RunCherryPick(*game);
+  EXPECT_EQ(game->run.CurrentStep, 1);
+  EXPECT_EQ(Count(1) + game->run.QuirkRollsLeft, 0);
+
+  ResetCharacter(*game);
+  game->run.CurrentStep = 7;
+  platform.ExpectForm("CherryPick", [&](Form& form) { pickAlbino(form, "1", kOk); });
+  platform.ExpectQuestion("You have entered a number in the Roll box", Answer::No);
+  RunCherryPick(*game);
+  EXPECT_EQ(game->run.CurrentStep, 8);
+  EXPECT_EQ(Count(1), 1);
+  EXPECT_EQ(game->run.QuirkRollsLeft, 0);
+
+  ResetCharacter(*game);
+  game->run.CurrentStep = 7;
+  platform.ExpectForm("CherryPick", [&](Form& form) { pickAlbino(form, "1", kOk); });
+  platform.ExpectQuestion("You have entered a number in the Roll box", Answer::Yes);
+  SeedFor(kCodex6A, 471);
+  platform.ExpectForm("QuirksandFlaws", [&](Form& form) {
+    form.Press(kRollForQuirk);
+    EXPECT_EQ(form.Items(kOwed), std::vector<std::string>{std::string(kTable6B)});
+    form.Press(kAbort);
+  });
+  RunCherryPick(*game);
+  EXPECT_EQ(game->run.CurrentStep, 1);
+  EXPECT_EQ(Count(1), 1) << "with no 6A roll left the picks join, though unpaid";
+  EXPECT_EQ(PotentialQuirkBP(*game), 0);
+
+  ResetCharacter(*game);
+  game->run.CurrentStep = 7;
+  platform.ExpectForm("CherryPick", [&](Form& form) { pickAlbino(form, "2", kOk); });
+  platform.ExpectQuestion("You have entered a number in the Roll box", Answer::Yes);
+  platform.ExpectForm("QuirksandFlaws", abort);
+  RunCherryPick(*game);
+  EXPECT_EQ(Count(1) + game->run.QuirkRollsLeft, 0) << "with rolls left nothing joins";
+
+  platform.ExpectForm("CherryPick", abort);
+  game->run.CurrentStep = 7;
+  RunCherryPick(*game);
+  EXPECT_EQ(game->run.CurrentStep, 1);
+}
+
+TEST_F(QuirksTest, QuirksBarClasses) {
+  const std::vector<std::pair<std::string_view, std::vector<int>>> bars = {
+      {"Battle Mage", {325, 327}},
+      {"Gladiator", {76, 77}},
+      {"Zealot of Thrain (Skite)", {51, 66}},
+      {"Zealot of Benyar (Imperious)", {86}},
+      {"Zealot of Enlil (Bombard)", {369, 65, 91, 92, 63, 185, 203, 205, 223}},
+  };
+  for (const auto& [name, quirks] : bars) {
+    const int barred = FindClassRow(name);
+    for (const int quirk : quirks) {
+      game->run.ClassAllowed.fill(5);
+      Count(quirk) = 1;
+      BarClassesForQuirks(*game);
+      Count(quirk) = 0;
+      for (int row = 0; row < static_cast<int>(game->run.ClassAllowed.size()); ++row) {
+        EXPECT_EQ(game->run.ClassAllowed[static_cast<std::size_t>(row)], row == barred ? 0 : 5) << name << quirk;
+      }
+    }
+  }
+  game->run.ClassAllowed.fill(5);
+  Count(204) = Count(224) = Count(184) = 1;  // no obsessions or compulsions themselves
+  BarClassesForQuirks(*game);
+  EXPECT_EQ(std::ranges::count(game->run.ClassAllowed, 0), 0);
+}
+
+TEST_F(QuirksTest, QuirksLowerAbilitiesOnceAndMaimingEachTime) {
+  for (int ability = 0; ability < kAbilityCount; ++ability) AbilityAt(game->sheet, ability) = {20, 40};
+  for (const int row : {361, 458, 7, 8, 10, 14, 15, 19, 22, 26, 29, 94, 96, 97, 98}) Count(row) = 2;
+  Count(43) = 3;
+  game->run.ArmAmputations = 1;
+  game->run.LegAmputations = 2;
+  ApplyQuirkEffects(*game);
+  EXPECT_EQ(game->sheet.Comeliness, (AbilityScore{20 - 4 - 1 - 1 - 1 - 2 - 1 - 9, 40}));
+  EXPECT_EQ(game->sheet.Charisma, (AbilityScore{20 - 9 - 9, 40}));
+  EXPECT_EQ(game->sheet.Constitution, (AbilityScore{20, -10}));
+  EXPECT_EQ(game->sheet.Intelligence, (AbilityScore{20, 65}));
+  EXPECT_EQ(game->sheet.Strength, (AbilityScore{21, 40}));
+  EXPECT_EQ(game->sheet.Dexterity, (AbilityScore{20, 40}));
+  EXPECT_EQ(Count(46), 1) << "one eye sees no depth";
+}
+
+TEST_F(QuirksTest, OnlyTheFirst599RowsArePaid) {
+  Earned(0) = Earned(600) = Earned(618) = 100;
+  Earned(1) = 5;
+  Earned(599) = 4;
+  game->run.BuildingPoints = 0.5F;
+  PayQuirks(*game);
+  EXPECT_FLOAT_EQ(game->run.BuildingPoints, 9.5F);
+}
+
+/// A player who presses, chooses and types at random for a while, answers at random, and then wants out.
+class RandomPlayer : public ScriptedPlatform {
+ public:
+  DiceState random;  // of the player, not of the game
+  Game* game = nullptr;
+  int presses = 0;
+
+  int Below(int limit) { return RollDie(random, limit) - 1; }
+
+  void RunForm(Form& form) override {
+    form.Open();
+    Check();
+    for (int left = Below(30); left > 0 && !form.IsClosed(); --left) PressAnything(form);
+    for (int tries = 0; !form.IsClosed(); ++tries) {
+      ASSERT_LT(tries, 2'000) << form.Name() << " can't be left";
+      FinishForm(form);
+    }
+    Check();
+  }
+
+  /// What must hold at every moment.
+  void Check() {
+    const CharacterSheet& sheet = game->sheet;
+    int picks = 0;
+    for (std::size_t row = 0; row < kQuirkRows; ++row) {
+      const int picked = game->run.QuirkPicks[row];
+      const int held = sheet.QuirkCounts[row];
+      const int most = QuirkTable()[row].MaxCount;
+      // Picks join what was held before.
+      const bool isPossible =
+          held >= 0 && held <= most + picked && picked >= 0 && picked <= most && sheet.QuirkBP[row] >= 0;
+      if (!isPossible) FAIL() << "row " << row << ": held " << held << ", picked " << picked;
+      picks += picked;
+    }
+    ASSERT_TRUE(sheet.MinorFlawPicksLeft >= 0 && sheet.MinorFlawPicksLeft <= 2);
+    ASSERT_TRUE(sheet.MajorFlawPicksLeft >= 0 && sheet.MajorFlawPicksLeft <= 1);
+    ASSERT_LE(picks, 3 - sheet.MinorFlawPicksLeft - sheet.MajorFlawPicksLeft);
+    ASSERT_TRUE(game->run.QuirkRollsLeft >= 0 && game->run.QuirkRollsLeft <= 9);
+  }
+
+ protected:
+  void DoShowMessage(const std::string&, const std::string&) override {}
+  Answer DoAskYesNo(const std::string&, const std::string&) override {
+    constexpr Answer kAnswers[] = {Answer::Yes, Answer::Yes, Answer::No, Answer::Closed};
+    return kAnswers[Below(4)];
+  }
+
+ private:
+  void PressAnything(Form& form) {
+    const Control& control = form.Controls()[static_cast<std::size_t>(Below(static_cast<int>(form.Controls().size())))];
+    const int id = control.Template.Id;
+    // The ways out are taken less often, so that something happens before.
+    if ((id == kOk || id == kAbort) && Below(6) != 0) return;
+    ++presses;
+    constexpr std::string_view kTyped[] = {"", "1", "5", "9", "10", "-3", "99999999999999999999", "x"};
+    form.Press(id);
+    form.Choose(id, Below(static_cast<int>(control.Items.size()) + 2) - 1);
+    form.Type(id, kTyped[Below(8)]);
+    if (Below(100) == 0) form.PressCloseBox();
+    Check();
+  }
+
+  /// Works off what is owed as a player would, from what the dialog shows.
+  void FinishForm(Form& form) {
+    if (form.Name() == "CherryPick") form.Press(kOk);
+    if (form.Name() != "QuirksandFlaws") return form.PressCloseBox();
+    if (!form.Items(kOwed).empty()) form.Choose(kTable, static_cast<int>(form.Items(kTable).size()) - 1);
+    if (form.Text(211) != "0" && form.Items(kOwed).empty()) form.Choose(kTable, Below(5));
+    form.Press(kRollForQuirk);
+    form.Press(kOk);
+    Check();
+  }
+};
+
+TEST(QuirksProperty, RandomPressesEndAndLeaveNothingImpossible) {
+  constexpr std::uint32_t kSeeds = 2'000;
+  RandomPlayer player;
+  const auto game = MakeGame(player);
+  player.game = game.get();
+  game->dice.LogMode = DiceLogMode::Off;
+  std::set<int> seen;
+  int finished = 0;
+  for (std::uint32_t seed = 0; seed < kSeeds && !::testing::Test::HasFatalFailure(); ++seed) {
+    SCOPED_TRACE(seed);
+    player.random.RandomState = seed * 2'654'435'769U;
+    ResetCharacter(*game);
+    game->dice.RandomState = seed;
+    game->RuleSwitches[kRollYourOwnDice] = 0;
+    for (std::size_t book = kHexwrightsAlmanac; book <= kDevoteesAlmanac; ++book) {
+      game->RuleSwitches[book] = 1;
+    }
+    game->sheet.Gender = player.Below(2) == 0 ? "Male" : "Female";
+    game->run.BuildingPoints = static_cast<float>(player.Below(30) - 5);
+    game->run.CurrentStep = 3;
+    // Step 6 gives, then Step 7.
+    if (player.Below(2) == 0) RunMinorQuirk(*game);
+    if (player.Below(2) == 0) RunMajorQuirk(*game);
+    if (player.Below(2) == 0) RunQuirksandFlaws(*game);
+    game->run.CurrentStep = player.Below(8) == 0 ? 0 : 7;
+    RunCherryPick(*game);
+    ASSERT_TRUE(game->run.CurrentStep == 8 || game->run.CurrentStep == 1 || game->run.CurrentStep == 0);
+    ASSERT_EQ(game->run.QuirkRollsLeft, 0);
+    finished += game->run.CurrentStep == 8;
+    const float before = game->run.BuildingPoints;
+    PayQuirks(*game);
+    ASSERT_GE(game->run.BuildingPoints, before);
+    ApplyQuirkEffects(*game);
+    for (int row = 1; row <= kLastQuirk; ++row) {
+      if (game->sheet.QuirkCounts[static_cast<std::size_t>(row)] > 0) seen.insert(row);
+    }
+  }
+  EXPECT_GT(finished, 200);
+  EXPECT_GT(player.presses, 20'000);
+  EXPECT_GT(seen.size(), 250U) << "the runs reach a good part of the catalogue";
+}
+
+}  // namespace
+}  // namespace veld

@@ -1,0 +1,258 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+
+#include "rules/spell_book_tables.h"
+#include "steps/classes/class_recalculation.h"
+#include "steps/spells/spell_books.h"
+#include "steps/spells/spell_dealing.h"
+#include "steps/spells/spell_selection.h"
+#include "store/side_files.h"
+#include "support/scripted_platform.h"
+#include "text/search.h"
+
+namespace veld {
+namespace {
+
+using testing::FileText;
+using testing::ScriptedPlatform;
+using testing::TestFolder;
+
+constexpr int kMasterCombo = 3115;
+constexpr int kMasterList = 3021;
+constexpr int kOwnList = 3022;
+constexpr int kAdd = 4001;
+constexpr int kRemove = 4002;
+
+class SpellsTest : public ::testing::Test {
+ protected:
+  SpellsTest() {
+    game->RuleSwitches[kRollYourOwnDice] = 0;
+    game->dice.LogMode = DiceLogMode::Off;
+    DecodeSpells(FileText(std::string(VELD_DATA_DIR) + "/spells.vld"), game->SpellTable);
+  }
+
+  void Mage(const char* className, int classRow, int starting) {
+    game->sheet.ClassName = className;
+    game->sheet.ClassLevels[static_cast<std::size_t>(classRow)] = 1;
+    game->sheet.Intelligence.Whole = 15;
+    game->run.StartingSpells = starting;
+    game->run.SpellListIndex = 30;
+    SetSpellsForLevel(*game, 1);
+  }
+
+  int Mark(std::string_view name) const {
+    const int row = FindSpell(game->SpellTable, name);
+    return row < 0 ? 0 : game->sheet.SpellsKnown[static_cast<std::size_t>(row)];
+  }
+
+  std::vector<std::string> Known() const {
+    std::vector<std::string> names;
+    for (std::size_t row = 0; row < kSpellRows; ++row) {
+      if (game->sheet.SpellsKnown[row] > 0) names.emplace_back(game->SpellTable[row].Name);
+    }
+    return names;
+  }
+
+  bool IsOfTable(FirstLevelTable table, std::string_view name) const {
+    const NameList names = FirstLevelSpells(table);
+    for (int n = 1; n <= names.Count(); ++n) {
+      if (SpellNameOf(names.Name(n)) == name) return true;
+    }
+    return false;
+  }
+
+  std::string SpellNameOf(std::string_view printed) const {
+    const int row = FindSpell(game->SpellTable, printed);
+    return row < 0 ? "" : std::string(game->SpellTable[static_cast<std::size_t>(row)].Name);
+  }
+
+  TestFolder folder;
+  ScriptedPlatform platform;
+  std::unique_ptr<Game> game = MakeGame(platform);
+};
+
+TEST_F(SpellsTest, EveryClassOfMageIsDealtWhatItIsOwed) {
+  struct Case {
+    const char* ClassName;
+    int Row;
+    int Starting;
+    int Least;
+  };
+  const Case cases[] = {
+      {"Magic-User", 12, 3, 3},   {"Battle Mage", 13, 3, 3},       {"Blood Mage", 14, 3, 3},
+      {"Illusionist", 24, 3, 3},  {"Wild Mage", 59, 3, 3},         {"Painted Mage", 58, 4, 4},
+      {"Elementalist: Air", 54, 3, 3},
+      {"Standard Specialist: Enchanter", 23, 3, 3},
+      {"Double Specialist: Necromancer", 34, 3, 3},
+      {"Sole Practitioner: Seer", 43, 8, 4},
+  };
+  for (const Case& mage : cases) {
+    for (std::uint32_t seed = 0; seed < 40; ++seed) {
+      game->sheet.SpellsKnown.fill(0);
+      game->sheet.ClassLevels.fill(0);
+      game->dice.RandomState = seed;
+      Mage(mage.ClassName, mage.Row, mage.Starting);
+      GrantStartingSpells(*game);
+      LiftSpellBars(*game);
+      const auto known = Known();
+      EXPECT_GE(static_cast<int>(known.size()), mage.Least) << mage.ClassName << " seed " << seed;
+      EXPECT_EQ(std::ranges::count(game->sheet.SpellsKnown, -1), 0);
+      if (mage.Row == 13) {
+        for (const auto& name : known) EXPECT_TRUE(IsOfTable(FirstLevelTable::C, name)) << name;
+      }
+    }
+  }
+  EXPECT_TRUE(Mark("Divining Rod") && Mark("Premonition")) << "a practitioner has the whole row";
+}
+
+TEST_F(SpellsTest, MentorsLimitWhatIsTaught) {
+  for (const std::size_t mentor : {kPacifistMentor, kWussMentor}) {
+    for (std::uint32_t seed = 0; seed < 60; ++seed) {
+      for (const char* className : {"Magic-User", "Standard Specialist: Invoker", "Battle Mage"}) {
+        game->sheet.SpellsKnown.fill(0);
+        game->sheet.QuirkCounts.fill(0);
+        game->sheet.QuirkCounts[mentor] = 1;
+        game->dice.RandomState = seed;
+        Mage(className, 12, 3);
+        GrantStartingSpells(*game);
+        for (const auto& name : Known()) EXPECT_FALSE(IsOfTable(FirstLevelTable::C, name)) << className << name;
+      }
+    }
+  }
+  game->sheet.SpellsKnown.fill(0);
+  game->sheet.QuirkCounts.fill(0);
+  game->sheet.QuirkCounts[kGimpMentor] = 1;
+  game->sheet.QuirkCounts[kChintzyMentor] = 1;
+  Mage("Magic-User", 12, 3);
+  GrantStartingSpells(*game);
+  EXPECT_EQ(game->run.StartingSpells, 2);
+  for (std::size_t row = 0; row < kSpellRows; ++row) {
+    if (game->sheet.SpellsKnown[row] > 0) {
+      EXPECT_FALSE(Contains(game->SpellTable[row].Component, "S"));
+    }
+  }
+  game->sheet.Intelligence.Whole = 18;
+  game->run.SpellListIndex = 36;
+  EXPECT_EQ(CantripsToChoose(*game), 9);
+  game->run.SpellListIndex = 9;
+  EXPECT_EQ(CantripsToChoose(*game), 9) << "the quarter is applied once";
+}
+
+TEST_F(SpellsTest, ADealEndsWhenNoNameIsFree) {
+  const std::uint32_t before = game->dice.RandomState;
+  game->sheet.SpellsKnown.fill(kBarredSpell);
+  EXPECT_FALSE(DealFirstLevelSpell(*game, FirstLevelTable::A));
+  EXPECT_EQ(game->dice.RandomState, before) << "before it rolls";
+  for (const char* className : {"Magic-User", "Blood Mage", "Standard Specialist: Abjurer"}) {
+    Mage(className, 12, 3);
+    GrantStartingSpells(*game);
+    EXPECT_EQ(game->dice.RandomState, before) << className;
+  }
+  game->sheet.SpellsKnown.fill(kUnknownSpell);
+  Mage("Double Specialist: Abjurer", 27, 0);
+  GrantStartingSpells(*game);
+  EXPECT_TRUE(Known().empty()) << "a specialist who is owed nothing gets nothing";
+}
+
+TEST_F(SpellsTest, ReadingAndWritingFollowTheChoice) {
+  Mage("Painted Mage", 58, 4);
+  FinishSpellList(*game);
+  EXPECT_GT(Mark("Read Magic"), 0);
+  EXPECT_EQ(Mark("Write"), 0);
+
+  game->sheet.SpellsKnown.fill(0);
+  Mage("Magic-User", 12, -1);
+  game->run.FreeLevel1Spells = 1;
+  game->run.FreeAnySpells = 1;
+  platform.ExpectForm("FreeSpellSellection", [](Form& form) {
+    EXPECT_EQ(form.Text(121), "You may pick any one spell castable by you for free at level 1.");
+    EXPECT_EQ(form.Items(kMasterCombo).size(), 9U);
+    form.Choose(kMasterList, 0);
+    EXPECT_FALSE(form.Text(200).empty());
+    form.Press(kAdd);
+  });
+  platform.ExpectForm("FreeSpellSellection", [](Form& form) {
+    EXPECT_EQ(form.Items(kMasterCombo).size(), 17U);
+    form.Press(kAdd);
+    EXPECT_FALSE(form.IsClosed()) << "nothing chosen";
+    form.PressCloseBox();
+  });
+  FinishSpellList(*game);
+  EXPECT_EQ(Mark("Read Magic"), 0) << "no dealing, but the free picks run";
+  EXPECT_EQ(Known().size(), 1U);
+}
+
+TEST_F(SpellsTest, CantripsAreChosenUpToTheirNumber) {
+  Mage("Magic-User", 12, 3);
+  game->run.SpellListIndex = 2;
+  platform.ExpectForm("SpellSellection", [&](Form& form) {
+    EXPECT_EQ(form.Text(121), "You have 2 more slots for this spell level.");
+    EXPECT_EQ(form.Items(kMasterCombo).size(), 8U);
+    for (int i = 0; i < 3; ++i) {
+      form.Choose(kMasterList, 0);
+      form.Press(kAdd);
+    }
+    EXPECT_EQ(form.Text(121), "You have 0 more slots for this spell level.");
+    EXPECT_EQ(KnownCantrips(*game), 2);
+    form.Choose(kOwnList, 0);
+    form.Press(kRemove);
+    EXPECT_EQ(form.Text(121), "You have 1 more slots for this spell level.");
+    form.PressCloseBox();
+  });
+  RunSpellSellection(*game);
+  EXPECT_EQ(KnownCantrips(*game), 1);
+  for (const int mark : game->sheet.SpellsKnown) EXPECT_LE(mark, 14);
+}
+
+TEST_F(SpellsTest, TheFirstBookHoldsTheKnownSpells) {
+  MakeFirstSpellBook(*game);
+  EXPECT_TRUE(game->sheet.SpellBooks[0].Name.Empty()) << "no spell, no book";
+
+  game->sheet.SpellsKnown[0] = 2;
+  game->sheet.SpellsKnown[200] = 3;
+  game->sheet.QuirkCounts[kLargeHandwriting] = 1;
+  for (std::uint32_t seed = 0;; ++seed) {
+    game->dice.RandomState = seed;
+    ClearSpellBook(*game, 0);
+    MakeFirstSpellBook(*game);
+    if (game->sheet.SpellBooks[0].FormatIndex != kNonStandardFormat) break;
+  }
+  const SpellBook& book = game->sheet.SpellBooks[0];
+  EXPECT_EQ(book.Name, "First Spellbook");
+  EXPECT_EQ(book.SpellRows[0], 4);
+  EXPECT_EQ(book.SpellRows[200], 6);
+  EXPECT_EQ(book.LastPage, 10);
+  EXPECT_GE(book.PageCount, 64);
+  const std::string text = SpellBookText(*game, 0);
+  EXPECT_TRUE(Contains(text, "First Spellbook\nStandard: ")) << text;
+  EXPECT_TRUE(Contains(text, Format("%s: 6\n", game->SpellTable[200].Name))) << text;
+
+  game->sheet.CharacterName = "A/B";
+  platform.ExpectQuestion("Save First Spellbook SpellBook?", Answer::Yes);
+  SaveSpellBooks(*game);
+  EXPECT_EQ(FileText("A_B spellbook 0.txt"), text);
+
+  game->sheet.SpellsKnown.fill(5);
+  ClearSpellBook(*game, 0);
+  game->run.BuildingPoints = 1;
+  platform.ExpectQuestion("Table 7G: Spell Book Format, Keep your result of ", Answer::No);
+  MakeFirstSpellBook(*game);
+  EXPECT_EQ(game->run.BuildingPoints, 0);
+  EXPECT_FALSE(book.Pages[99].Empty()) << "a hundred spells, no more";
+}
+
+TEST_F(SpellsTest, ANonStandardBookCountsPieces) {
+  SpellBook& book = game->sheet.SpellBooks[0];
+  book.Name = "First Spellbook";
+  book.FormatIndex = kNonStandardFormat;
+  book.SizeIndex = 1;  // stone tablets hold five levels
+  book.FormatName = "Stone Tablets";
+  const auto ninth = std::ranges::find_if(game->SpellTable, [](const SpellRecord& spell) { return spell.Level == 9; });
+  book.Pages[0] = ninth->Name.View();
+  EXPECT_EQ(SpellBookText(*game, 0), Format("First Spellbook\nStone Tablets\n2\n%s: 2\n", ninth->Name));
+}
+
+}  // namespace
+}  // namespace veld
