@@ -44,8 +44,6 @@ constexpr std::size_t kMonk = 9;
 constexpr std::size_t kBattleMage = 13;
 constexpr std::size_t kPaintedMage = 58;
 
-constexpr std::string_view kHalfBloods[] = {"Half-elf", "Half-orc", "Half-ogre", "Gnomeling", "Darkmen"};
-
 bool HasClass(const Game& game, std::size_t classRow) { return game.sheet.ClassLevels[classRow] > 0; }
 bool IsSingleClass(const Game& game) { return !Contains(game.sheet.LevelText, "/"); }
 
@@ -124,7 +122,7 @@ void RunFamilyAndQuirks(Game& game) {
 }
 
 void RunClassChoice(Game& game) {
-  const bool isHalfBlood = std::ranges::any_of(kHalfBloods, [&](auto race) { return game.sheet.RaceName == race; });
+  const bool isHalfBlood = !TakeAfterRaces(game.sheet.RaceName).empty();
   if (isHalfBlood && game.run.BuildingPoints >= kTakeAfterBP) RunTakeAfter(game);
   RunStepNine(game);
 }

@@ -5,6 +5,7 @@
 #include <climits>
 #include <cstddef>
 
+#include "rules/race_table.h"
 #include "text/format.h"
 #include "text/search.h"
 
@@ -31,22 +32,14 @@ std::string_view TextOf(const TextRow (&rows)[N], int total) {
   return RowOf(rows, total).Text;
 }
 
-template <std::size_t N>
-bool IsOneOf(std::string_view text, const std::string_view (&texts)[N]) {
-  return std::ranges::any_of(texts, [&](std::string_view each) { return EqualsIgnoringCase(text, each); });
-}
-
 // clang-format off
-
-constexpr std::string_view kAmbidextrousRaces[] = {"Elf, Drow", "Elf, Grel", "Elf, Grey", "Elf, high", "Elf, Wood"};
-constexpr std::string_view kDeepRaces[] = {"Dwarf", "Gnome", "Gnome Titan"};
 
 constexpr int kHighDexterity = 15;  // a Dexterity above it
 
 constexpr TextRow kHandednessHigh[]     = {{ 7, "Left"}, {27, "Ambidextrous"}, {kRest, "Right"}};
 constexpr TextRow kHandedness[]         = {{12, "Left"}, {22, "Ambidextrous"}, {kRest, "Right"}};
-constexpr TextRow kDeepHandednessHigh[] = {              {37, "Ambidextrous"}, {kRest, "Right"}};  // no left hand here
-constexpr TextRow kDeepHandedness[]     = {{ 2, "Left"}, {32, "Ambidextrous"}, {kRest, "Right"}};
+constexpr TextRow kSeldomLeftHigh[]     = {              {37, "Ambidextrous"}, {kRest, "Right"}};  // no left hand here
+constexpr TextRow kSeldomLeft[]         = {{ 2, "Left"}, {32, "Ambidextrous"}, {kRest, "Right"}};
 
 struct SocialClassRow {
   int Highest;
@@ -296,13 +289,15 @@ std::string SiblingText(const SiblingRolls& rolls) {
 }  // namespace
 
 bool IsBornAmbidextrous(std::string_view race) {
-  return IsOneOf(race, kAmbidextrousRaces);
+  return HasTrait(race, RaceTrait::BornAmbidextrous);
 }
 
 std::string_view HandednessOf(std::string_view race, int dexterity, int roll) {
   if (IsBornAmbidextrous(race)) return "Ambidextrous";
   const bool high = dexterity > kHighDexterity;
-  if (IsOneOf(race, kDeepRaces)) return high ? TextOf(kDeepHandednessHigh, roll) : TextOf(kDeepHandedness, roll);
+  if (HasTrait(race, RaceTrait::SeldomLeftHanded)) {
+    return high ? TextOf(kSeldomLeftHigh, roll) : TextOf(kSeldomLeft, roll);
+  }
   return high ? TextOf(kHandednessHigh, roll) : TextOf(kHandedness, roll);
 }
 

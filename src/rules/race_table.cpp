@@ -11,46 +11,48 @@ namespace veld {
 
 namespace {
 
-constexpr int kDarkmenSwitch = 12;
-
 bool IsBlank(const RaceRecord& race) {
   return race.Name.size() < 3 || race.RaceBP == 0;
 }
 
 RaceRecord ExpandRace(std::size_t row) {
-  const RaceRow& numbers = kRaceNumbers[row];
-  const std::size_t kind = row / 2;
+  const RaceEntry& entry = kRaces[row / 2];
+  const bool isFemale = row % 2 == 1;
+  const RaceNumbers& numbers = entry.Numbers[isFemale ? 1 : 0];
   RaceRecord race;
-  race.Name = numbers.name;
-  race.Gender = numbers.gender;
+  race.Name = entry.Name;
+  race.Gender = numbers.Gender;
   race.RowIndex = race.Name == "Elf, Wood" ? 0 : static_cast<int>(row);  // the book leaves the wood elves without one
-  race.RuleSwitch = race.Name == "Darkmen" ? kDarkmenSwitch : 0;
-  race.SizeClass = numbers.sizeClass;
-  race.BaseMovement = numbers.movement;
-  race.Languages = kRaceLanguages[kind];
-  for (const RaceNote& note : kRaceNotes[kind]) race.Notes[static_cast<std::size_t>(note.slot)] = note.text;
-  race.AbilityLimits = numbers.limits.ranges;
-  race.AbilityModifiers = numbers.modifiers.values;
-  race.RaceBP = numbers.bp;
-  race.LegitimacyModifier = numbers.legitimacy;
-  race.BirthModifier = numbers.birth;
-  race.AgeBase = numbers.age.base;
-  race.AgeDieSides = numbers.age.sides;
-  race.AgeDieCount = numbers.age.count;
-  race.HeightBase = numbers.height.base;
-  race.HeightDieSides = numbers.height.sides;
-  race.HeightDieCount = numbers.height.count;
-  race.WeightBase = numbers.weight.base;
-  race.WeightDieSides = numbers.weight.sides;
-  race.WeightDieCount = numbers.weight.count;
+  race.RuleSwitch = entry.RuleSwitch;
+  race.SizeClass = numbers.SizeClass;
+  race.BaseMovement = numbers.Movement;
+  race.Languages = entry.Languages.texts;
+  const auto note = std::ranges::copy(entry.Notes.Bonuses.texts, race.Notes.begin()).out;
+  std::ranges::copy(entry.Notes.Downside.texts, std::ranges::copy(entry.Notes.Talents.texts, note).out);
+  race.AbilityLimits = numbers.Limits.ranges;
+  race.AbilityModifiers = numbers.Modifiers.values;
+  race.RaceBP = numbers.BP;
+  race.LegitimacyModifier = numbers.Legitimacy;
+  race.BirthModifier = numbers.Birth;
+  race.AgeBase = numbers.Age.base;
+  race.AgeDieSides = numbers.Age.sides;
+  race.AgeDieCount = numbers.Age.count;
+  race.HeightBase = numbers.Height.base;
+  race.HeightDieSides = numbers.Height.sides;
+  race.HeightDieCount = numbers.Height.count;
+  race.WeightBase = numbers.Weight.base;
+  race.WeightDieSides = numbers.Weight.sides;
+  race.WeightDieCount = numbers.Weight.count;
 
-  const RaceClassLimits& limits = kRaceClassLimits[kind];
-  const bool ownList = row % 2 == 1 && !limits.female.empty();
-  ExpandRowRuns(ownList ? limits.female : limits.male, race.ClassLevelLimits);
-  ExpandRowRuns(kRaceTalents[kind].bought, race.TalentFlags);
-  ExpandRowRuns(kRaceTalents[kind].granted, race.TalentFlags, -1);
-  ExpandRowRuns(kRaceTalents[kind].bought2, race.Talent2Flags);
-  race.ThiefAdjustments = kRaceThiefAdjustments[kind].values;
+  const bool ownList = isFemale && !entry.FemaleClassLimits.list.empty();
+  ExpandRowRuns((ownList ? entry.FemaleClassLimits : entry.MaleClassLimits).list, race.ClassLevelLimits);
+  ExpandRowRuns(entry.TalentsBought.list, race.TalentFlags);
+  ExpandRowRuns(entry.TalentsGranted.list, race.TalentFlags, -1);
+  ExpandRowRuns(entry.NamedTalentsBought.list, race.Talent2Flags);
+  race.ThiefAdjustments = entry.ThiefAdjustments.values;
+  const auto takesAfter = std::ranges::find(entry.TakesAfter.texts, std::string_view{});
+  race.TakesAfter = {entry.TakesAfter.texts.begin(), takesAfter};
+  race.Traits = entry.Traits;
   return race;
 }
 
@@ -88,6 +90,15 @@ int FindRaceRow(std::string_view name, std::string_view gender) {
   return FindRaceUpTo(kRacesFilled - 1, name, gender);
 }
 
+const RaceRecord* FindRace(std::string_view name) {
+  return FilledRace(FindRaceRow(name, "Male"));
+}
+
+bool HasTrait(std::string_view race, RaceTrait trait) {
+  const RaceRecord* record = FindRace(race);
+  return record && record->Traits.Has(trait);
+}
+
 int FindSearchedRaceRow(std::string_view name, std::string_view gender) {
   return FindRaceUpTo(kLastSearchedRace, name, gender);
 }
@@ -118,20 +129,9 @@ bool RaceFits(int row, std::span<const int, kAbilityCount> wholeScores) {
 }
 
 int FindTakenAfterRow(std::string_view name) {
-  static constexpr std::array<std::string_view, 12> kTakenAfter = {"Human",
-                                                                   "Gnome",
-                                                                   "Gnome Titan",
-                                                                   "Elf, High",
-                                                                   "Elf, Wood",
-                                                                   "Elf, Drow",
-                                                                   "Elf, Grel",
-                                                                   "Elf, Grey",
-                                                                   "Halfling, Hairfoot",
-                                                                   "Halfling, Stout",
-                                                                   "Halfling, Tallfellow",
-                                                                   "Halfling, Thug"};
-  if (std::find(kTakenAfter.begin(), kTakenAfter.end(), name) == kTakenAfter.end()) return -1;
-  return FindRaceRow(name, "Male");
+  const bool isTakenAfter = std::ranges::any_of(
+      kRaces, [&](const RaceEntry& race) { return race.Name == name && race.Traits.Has(RaceTrait::TakenAfter); });
+  return isTakenAfter ? FindRaceRow(name, "Male") : -1;
 }
 
 }  // namespace veld

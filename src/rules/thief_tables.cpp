@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "rules/race_table.h"
 #include "text/search.h"
 
 namespace veld {
@@ -21,11 +22,6 @@ struct ClassBase {
 struct DexterityChange {
   int dexterity;
   std::array<int, 6> change;  ///< of the first six abilities
-};
-
-struct RaceChange {
-  std::string_view race;
-  Percents change;
 };
 
 constexpr int kHighestDexterity = 25;
@@ -65,33 +61,6 @@ constexpr std::array<DexterityChange, 16> kDexterityChanges = {{
     {25, { 45,  50,  40,  40,  40,  45}},
 }};
 
-constexpr Percents kElves     =    {  5,  -5,   5,   0,   5,  10,   5,   0,   0};
-constexpr Percents kHalflings =    {  5,   5,  10,   0,  10,  15,   5, -15,  -5};
-
-// What the allotment of points goes by. The race table's own adjustments differ for elves, half-elves, darkmen and
-// half-ogres: both are the book's.
-//                            Pick Open Find Remove Silent Hide Noise Climb Read
-constexpr std::array<RaceChange, 18> kRaceChanges = {{
-    {"Dwarf",                {  0,  10,  10,  15, -10,  -5,   0,   5,   0}},
-    {"Elf, Drow",            kElves},
-    {"Elf, Grey",            kElves},
-    {"Elf, High",            kElves},
-    {"Elf, Wood",            kElves},
-    {"Elf, Grel",            kElves},
-    {"Gnome",                {  0,   5,  10,  10,   5,   5,  10, -15,   0}},
-    {"Gnome Titan",          {  0,   5,  10,  10,   5,   5,  10, -15,   0}},
-    {"Gnomeling",            {  0,   5,   5,   5,   5,  10,   5, -15,   0}},
-    {"Half-elf",             {  5,   0,   0,   0,   0,   5,   0,   0,   0}},
-    {"Darkmen",              {  5,   0,   0,   0,   0,   5,   0,   0,   0}},
-    {"Halfling, Hairfoot",   kHalflings},
-    {"Halfling, Stout",      kHalflings},
-    {"Halfling, Tallfellow", kHalflings},
-    {"Halfling, Thug",       kHalflings},
-    {"Half-ogre",            {-10,   5,   5,   5,  -5, -20,  10,  20, -20}},
-    {"Half-orc",             { -5,   5,   0,   5,   0,   0,   5,   5, -10}},
-    {"Pixie Fairy",          { 10, -15, -15, -15,  20,  30,  10, -50, -10}},
-}};
-
 // clang-format on
 
 }  // namespace
@@ -112,9 +81,8 @@ std::array<int, kThiefAbilityCount> ThiefBaseScores(std::string_view className, 
     if (row.dexterity != std::min(dexterity, kHighestDexterity)) continue;
     for (std::size_t i = 0; i < row.change.size(); ++i) scores[i] += row.change[i];
   }
-  for (const RaceChange& row : kRaceChanges) {
-    if (!EqualsIgnoringCase(row.race, race)) continue;
-    for (std::size_t i = 0; i < scores.size(); ++i) scores[i] += row.change[i];
+  if (const RaceRecord* record = FindRace(race)) {
+    for (std::size_t i = 0; i < scores.size(); ++i) scores[i] += record->ThiefAdjustments[i];
   }
   return scores;
 }

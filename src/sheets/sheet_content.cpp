@@ -5,6 +5,7 @@
 
 #include "rules/class_table.h"
 #include "rules/quirk_table.h"
+#include "rules/race_table.h"
 #include "rules/skill_table.h"
 #include "rules/talent_table.h"
 #include "steps/abilities/ability_effects_apply.h"
@@ -117,7 +118,7 @@ constexpr TattooLine kTattooLines[] = {
 
 std::vector<std::string_view> GatherTattoos(const CharacterSheet& sheet) {
   std::vector<std::string_view> lines;
-  if (sheet.RaceName != kTattooRace) return lines;
+  if (!HasTrait(sheet.RaceName, RaceTrait::Tattooed)) return lines;
   for (const TattooLine& tattoo : kTattooLines) {
     if (sheet.*tattoo.Tattoo == tattoo.Place) lines.push_back(tattoo.Line);
   }

@@ -12,7 +12,6 @@
 #include "rules/ability_effects.h"
 #include "rules/class_rows.h"
 #include "rules/class_table.h"
-#include "rules/race_rows.h"
 #include "rules/race_table.h"
 #include "rules/saving_throws.h"
 #include "text/numbers.h"
@@ -72,27 +71,6 @@ TEST(Ability, ReadsAsANumberByItsPrintedDigits) {
   EXPECT_LT(AbilityAsNumber({12, 100}), AbilityAsNumber({12, 76}));
   EXPECT_FLOAT_EQ(AbilityAsNumber({13, 46}), 13.46F);
   EXPECT_FLOAT_EQ(AbilityAsNumber({-2, 50}), -2.5F);
-}
-
-TEST(Races, EveryRowListIsWellFormed) {
-  for (std::size_t kind = 0; kind < kRaceKinds; ++kind) {
-    SCOPED_TRACE(kRaceNumbers[2 * kind].name);
-    const RaceClassLimits& limits = kRaceClassLimits[kind];
-    std::array<int, 200> classes{};
-    EXPECT_TRUE(ExpandRowRuns(limits.male, classes));
-    EXPECT_TRUE(ExpandRowRuns(limits.female, classes));
-    const RaceTalents& talents = kRaceTalents[kind];
-    const std::set<int> bought = RowsOf(talents.bought, 150);
-    EXPECT_FALSE(bought.empty());
-    EXPECT_FALSE(RowsOf(talents.bought2, 50).empty());
-    EXPECT_EQ(RowsOf(talents.granted, 150).empty(), talents.granted.empty());
-    for (const int row : RowsOf(talents.granted, 150)) EXPECT_FALSE(bought.contains(row)) << row;
-    std::set<int> slots;
-    for (const RaceNote& note : kRaceNotes[kind]) {
-      EXPECT_TRUE(note.slot >= 0 && note.slot < 30 && slots.insert(note.slot).second) << note.slot;
-      EXPECT_LT(note.text.size(), 250U);
-    }
-  }
 }
 
 TEST(Races, RowsArePairsOfGendersWithSoundNumbers) {

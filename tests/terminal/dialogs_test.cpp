@@ -109,7 +109,7 @@ const Dialog kDialogs[] = {
     {"Free Spell", [](Game& game) { RunFreeSpellSellection(game, FreeSpellKind::AnyLevel); }},
     {"Tattoo",
      [](Game& game) {
-       game.sheet.RaceName = kTattooRace;
+       game.sheet.RaceName = "Pixie Fairy";
        RunTattoo(game);
      }},
     {"Do you wish to take the Take After Talent for 30 BP?",

@@ -39,10 +39,12 @@ Candidate CandidateOf(const Game& game) {
   return candidate;
 }
 
-/// The abilities as they count for one class: a gnome titan's Intelligence is 1 higher for a battle mage.
+/// The abilities as they count for one class: some races are shrewder as battle mages.
 std::array<float, kAbilityCount> AbilitiesFor(const Game& game, const Candidate& candidate, int classRow) {
   std::array<float, kAbilityCount> abilities = candidate.Abilities;
-  if (classRow == kBattleMageRow && game.sheet.RaceName == "Gnome Titan") abilities[kIntelligence] += 1;
+  if (classRow == kBattleMageRow && HasTrait(game.sheet.RaceName, RaceTrait::ShrewdBattleMage)) {
+    abilities[kIntelligence] += 1;
+  }
   return abilities;
 }
 

@@ -103,7 +103,7 @@ bool NamesClass(std::string_view text, int classRow) {
 void AddHitDice(Game& game, int classRow, int level, int sign) {
   int& total = game.sheet.HitDiceCount;
   int dice = ClassAt(classRow).HitDiceAtLevel[Index(level)];
-  if (level == 1 && game.sheet.RaceName == "Half-ogre") dice *= 2;
+  if (level == 1 && HasTrait(game.sheet.RaceName, RaceTrait::DoubledFirstHitDice)) dice *= 2;
   total = AddSaturated(total, sign * dice);
 }
 
@@ -116,9 +116,10 @@ void RollLevelHitPoints(Game& game, int classRow, int level) {
   int& base = sheet.LevelHitPoints[0][Index(classRow)];
   if (level == 1) base = record.Kicker;
   int points = roll();
-  if (level == 1 && sheet.RaceName == "Half-ogre") points = AddSaturated(points, roll());
-  if (sheet.RaceName == "Gnome Titan") points /= 2;
-  if (sheet.RaceName == "Pixie Fairy") {
+  const auto has = [&](RaceTrait trait) { return HasTrait(sheet.RaceName, trait); };
+  if (level == 1 && has(RaceTrait::DoubledFirstHitDice)) points = AddSaturated(points, roll());
+  if (has(RaceTrait::HalvedHitPoints)) points /= 2;
+  if (has(RaceTrait::HalvedHitPointsAndKicker)) {
     points = AddSaturated(points, 1) / 2;
     if (level == 1) base /= 2;
   }
@@ -215,7 +216,7 @@ void EnterClass(Game& game, const ChainRun& run, int classRow) {
   }
   if (classRow == kBattleMage) {
     sheet.Wisdom.Whole = AddSaturated(sheet.Wisdom.Whole, -1);
-    if (sheet.RaceName == "Dwarf") sheet.TalentCounts[kDwarfMageTalent] = 1;
+    if (HasTrait(sheet.RaceName, RaceTrait::TalentedBattleMage)) sheet.TalentCounts[kDwarfMageTalent] = 1;
   }
 }
 

@@ -1,5 +1,6 @@
 #include "steps/classes/take_after.h"
 
+#include "rules/race_table.h"
 #include "steps/quirks/quirk_effects.h"
 #include "steps/race/race_choice.h"
 
@@ -22,22 +23,11 @@ constexpr ControlTemplate kTakeAfterControls[] = {
 };
 constexpr FormTemplate kTakeAfter{"TakeAfter", kTitle, kTakeAfterControls};
 
-constexpr std::string_view kOfDarkmen[] = {"Human", "Elf, Drow"};
-constexpr std::string_view kOfHalfElves[] = {"Human", "Elf, High", "Elf, Wood", "Elf, Drow", "Elf, Grel", "Elf, Grey"};
-constexpr std::string_view kOfHalfOrcs[] = {"Orc", "Human"};
-constexpr std::string_view kOfHalfOgres[] = {"Ogre", "Human"};
-constexpr std::string_view kOfGnomelings[] = {"Gnome",           "Gnome Titan",          "Halfling, Hairfoot",
-                                              "Halfling, Stout", "Halfling, Tallfellow", "Halfling, Thug"};
-
 }  // namespace
 
 std::span<const std::string_view> TakeAfterRaces(std::string_view race) {
-  if (race == "Darkmen") return kOfDarkmen;
-  if (race == "Half-elf") return kOfHalfElves;
-  if (race == "Half-orc") return kOfHalfOrcs;
-  if (race == "Half-ogre") return kOfHalfOgres;
-  if (race == "Gnomeling") return kOfGnomelings;
-  return {};
+  const RaceRecord* record = FindRace(race);
+  return record ? record->TakesAfter : std::span<const std::string_view>{};
 }
 
 void TakeAfter(Game& game, std::string_view race) {

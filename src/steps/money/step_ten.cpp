@@ -1,5 +1,6 @@
 #include "steps/money/step_ten.h"
 
+#include "rules/race_table.h"
 #include "steps/money/money_bp.h"
 #include "steps/money/starting_money.h"
 
@@ -21,7 +22,6 @@ enum : int {
 constexpr int kNumberWidth = 10;
 
 /// The race whose training takes no years: its age is as it is, and the button does nothing.
-constexpr std::string_view kPixieFairy = "Pixie Fairy";
 
 constexpr ControlTemplate kStepTenControls[] = {
     TitleAt(0, 0, "Step 10: Finish Background", 3),
@@ -57,12 +57,12 @@ void ShowStepTen(const Game& game, const StepTenRolls& rolls, Form& form) {
 
 void OpenStepTen(Game& game, StepTenRolls& rolls) {
   game.run.CurrentStep = 0;
-  rolls.HasAge = game.sheet.RaceName == kPixieFairy;
+  rolls.HasAge = HasTrait(game.sheet.RaceName, RaceTrait::NoYearsOfTraining);
   rolls.Age = game.sheet.Age;
 }
 
 void PressAge(Game& game, StepTenRolls& rolls) {
-  if (game.sheet.RaceName == kPixieFairy || !PayForRoll(game, !rolls.HasAge)) return;
+  if (HasTrait(game.sheet.RaceName, RaceTrait::NoYearsOfTraining) || !PayForRoll(game, !rolls.HasAge)) return;
   rolls.HasAge = true;
   rolls.Age = AddSaturated(game.sheet.Age, RollClassAge(game));
 }

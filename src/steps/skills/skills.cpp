@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "rules/race_table.h"
 #include "rules/skill_prices.h"
 #include "steps/skills/buy_skill.h"
 #include "steps/skills/free_skills.h"
@@ -281,7 +282,7 @@ void ShowSkillCost(Game& game, Form& form, std::string_view name) {
 void RunSkills(Game& game) {
   SkillsPage page;
   page.form.onOpened = [&] {
-    page.form.SetVisible(kTattoos, game.sheet.RaceName == kTattooRace);
+    page.form.SetVisible(kTattoos, HasTrait(game.sheet.RaceName, RaceTrait::Tattooed));
     FillCategories(page.form);
     ShowAll(game, page, {});
   };

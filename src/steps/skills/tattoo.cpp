@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "rules/race_table.h"
 #include "steps/abilities/ability_effects_apply.h"
 #include "text/format.h"
 #include "text/numbers.h"
@@ -207,7 +208,7 @@ bool RemoveTattoo(Game& game) {
 }
 
 void RunTattoo(Game& game) {
-  if (game.sheet.RaceName != kTattooRace) return;
+  if (!HasTrait(game.sheet.RaceName, RaceTrait::Tattooed)) return;
   Form form(kTattoo);
   form.onOpened = [&] {
     FillTattooList(form);

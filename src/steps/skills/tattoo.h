@@ -8,9 +8,6 @@
 
 namespace veld {
 
-/// The race that magic tattoos work on.
-inline constexpr std::string_view kTattooRace = "Pixie Fairy";
-
 /// Places of the body: elements of TattooChoices and the values of a tattoo's location code. The last stands for both
 /// lower arms, which its tattoo marks besides.
 enum TattooPlace : int {
