@@ -21,6 +21,7 @@
 #include <utility>
 
 #include "desktop/control_widgets.h"
+#include "platform/control_names.h"
 #include "platform/mnemonics.h"
 
 namespace veld {

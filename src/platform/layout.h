@@ -98,23 +98,4 @@ inline int RuleY(const PageMetrics& metrics, int line) {
   return metrics.MarginTop + (line + 1) * metrics.Pitch - 1;
 }
 
-/// What names a control to someone who can not see the page: the label to the left of it, or right above it; for a
-/// result also the button to the left. Without marks before letters; empty if nothing names it.
-std::string ControlName(const Form& form, std::size_t control);
-
-/// The control that the label names: the first one after it in its row, or the one below it, that can be used. Its
-/// place in Form::Controls(), or the number of controls if there is none.
-std::size_t NamedControl(const Form& form, std::size_t label);
-
-/// True for the kinds in which '&' stands before the letter that reaches the control; "&&" is a plain '&' there.
-bool HasMnemonic(ControlKind kind);
-
-/// A text with its marks before letters taken out.
-std::string WithoutMnemonic(std::string_view text);
-
-/// Breaks a text into lines no wider than `width`: at line ends, else at blanks, else (a word wider than a line)
-/// between two characters. Blanks at a break are dropped. A text always has at least one line.
-std::vector<std::string> WrapText(std::string_view text, int width,
-                                  const std::function<int(std::string_view)>& textWidth);
-
 }  // namespace veld

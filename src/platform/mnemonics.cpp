@@ -2,7 +2,7 @@
 
 #include <set>
 
-#include "platform/layout.h"
+#include "platform/control_names.h"
 
 namespace veld {
 

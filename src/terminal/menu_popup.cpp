@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/control_names.h"
 #include "terminal/cells.h"
 
 namespace veld {

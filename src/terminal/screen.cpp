@@ -13,6 +13,7 @@
 #include <array>
 #include <cstdlib>
 
+#include "platform/control_names.h"
 #include "terminal/cells.h"
 
 namespace veld {

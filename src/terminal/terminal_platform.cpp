@@ -4,6 +4,7 @@
 #include <chrono>
 #include <utility>
 
+#include "platform/control_names.h"
 #include "terminal/cells.h"
 #include "terminal/menu_popup.h"
 #include "terminal/path_form.h"

@@ -4,7 +4,9 @@
 
 #include <algorithm>
 
+#include "platform/control_names.h"
 #include "platform/mnemonics.h"
+#include "platform/wrap_text.h"
 
 namespace veld {
 namespace {

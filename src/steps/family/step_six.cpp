@@ -1,6 +1,6 @@
 #include "steps/family/step_six.h"
 
-#include "platform/layout.h"
+#include "platform/control_names.h"
 #include "steps/family/prior_gates.h"
 #include "steps/family/priors.h"
 

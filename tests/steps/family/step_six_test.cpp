@@ -9,7 +9,7 @@
 #include <set>
 #include <tuple>
 
-#include "platform/layout.h"
+#include "platform/control_names.h"
 #include "rules/priors_tables.h"
 #include "rules/quirk_table.h"
 #include "rules/race_table.h"

@@ -1,0 +1,104 @@
+#include "platform/control_names.h"
+
+#include <algorithm>
+
+#include "platform/control_kinds.h"
+
+namespace veld {
+
+bool HasMnemonic(ControlKind kind) {
+  return kind == ControlKind::Label || kind == ControlKind::Button || IsMark(kind);
+}
+
+std::string WithoutMnemonic(std::string_view text) {
+  std::string plain;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '&' && ++i == text.size()) break;
+    plain += text[i];
+  }
+  return plain;
+}
+
+std::string ShownText(const Control& control) {
+  return HasMnemonic(control.Template.Kind) ? WithoutMnemonic(control.Text) : control.Text;
+}
+
+namespace {
+
+bool IsCaption(ControlKind kind) {
+  return kind == ControlKind::Label || kind == ControlKind::Heading;
+}
+
+bool IsField(ControlKind kind) {
+  return kind == ControlKind::Edit || kind == ControlKind::Number || kind == ControlKind::Combo;
+}
+
+/// True if control `a` stands left of control `b` in the same row.
+bool IsLeftOf(const Form& form, std::size_t a, std::size_t b) {
+  const ControlTemplate& left = form.Controls()[a].Template;
+  const ControlTemplate& right = form.Controls()[b].Template;
+  return left.Row == right.Row && (left.Column < right.Column || (left.Column == right.Column && a < b));
+}
+
+/// The visible control next to `control` in its row, to the left or the right; the number of controls if there is none.
+std::size_t Neighbour(const Form& form, std::size_t control, bool toTheLeft) {
+  const std::size_t count = form.Controls().size();
+  std::size_t nearest = count;
+  for (std::size_t i = 0; i < count; ++i) {
+    if (!form.Controls()[i].Visible) continue;
+    const bool isOnSide = toTheLeft ? IsLeftOf(form, i, control) : IsLeftOf(form, control, i);
+    if (!isOnSide) continue;
+    const bool isNearer = nearest == count || (toTheLeft ? IsLeftOf(form, nearest, i) : IsLeftOf(form, i, nearest));
+    if (isNearer) nearest = i;
+  }
+  return nearest;
+}
+
+/// The first visible control in the same column of the row above (-1) or below (1); the number of controls if none.
+std::size_t Vertical(const Form& form, std::size_t control, int rows) {
+  const ControlTemplate& self = form.Controls()[control].Template;
+  const auto& controls = form.Controls();
+  const auto found = std::ranges::find_if(controls, [&](const Control& other) {
+    return other.Visible && other.Template.Row == self.Row + rows && other.Template.Column == self.Column;
+  });
+  return static_cast<std::size_t>(found - controls.begin());
+}
+
+}  // namespace
+
+std::size_t NamedControl(const Form& form, std::size_t label) {
+  const auto& controls = form.Controls();
+  const std::size_t none = controls.size();
+  const std::size_t right = Neighbour(form, label, false);
+  if (right < none && CanBeUsed(controls[right].Template.Kind)) return right;
+  if (right < none && controls[right].Template.Kind == ControlKind::Result) {
+    // What the character has may stand between a label and the field to type in.
+    std::size_t field = right;
+    while (field < none && controls[field].Template.Kind == ControlKind::Result) field = Neighbour(form, field, false);
+    return field < none && IsField(controls[field].Template.Kind) ? field : none;
+  }
+  const std::size_t below = Vertical(form, label, 1);
+  return below < none && CanBeUsed(controls[below].Template.Kind) ? below : none;
+}
+
+std::string ControlName(const Form& form, std::size_t control) {
+  const auto& controls = form.Controls();
+  const std::size_t none = controls.size();
+  const ControlKind self = controls[control].Template.Kind;
+  for (std::size_t left = Neighbour(form, control, true); left < none; left = Neighbour(form, left, true)) {
+    const ControlKind kind = controls[left].Template.Kind;
+    if (IsCaption(kind) || (self == ControlKind::Result && kind == ControlKind::Button))
+      return ShownText(controls[left]);
+    // A row of fields, or of results, is named by the one label before them.
+    const bool isOfRow = kind == ControlKind::Result || (IsField(self) && IsField(kind));
+    if (!(IsField(self) || self == ControlKind::Result) || !isOfRow) break;
+  }
+  const std::size_t above = Vertical(form, control, -1);
+  if (above == none || !IsCaption(controls[above].Template.Kind)) return {};
+  const std::size_t next = Neighbour(form, above, false);
+  const bool namesAnother =
+      next < none && (CanBeUsed(controls[next].Template.Kind) || controls[next].Template.Kind == ControlKind::Result);
+  return namesAnother ? std::string() : ShownText(controls[above]);
+}
+
+}  // namespace veld

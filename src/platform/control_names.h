@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "platform/form.h"
+
+namespace veld {
+
+/// What names a control to someone who can not see the page: the label to the left of it, or right above it; for a
+/// result also the button to the left. Without marks before letters; empty if nothing names it.
+std::string ControlName(const Form& form, std::size_t control);
+
+/// The control that the label names: the first one after it in its row, or the one below it, that can be used. Its
+/// place in Form::Controls(), or the number of controls if there is none.
+std::size_t NamedControl(const Form& form, std::size_t label);
+
+/// True for the kinds in which '&' stands before the letter that reaches the control; "&&" is a plain '&' there.
+bool HasMnemonic(ControlKind kind);
+
+/// A text with its marks before letters taken out.
+std::string WithoutMnemonic(std::string_view text);
+
+/// The text of a control as it is read: without marks before letters.
+std::string ShownText(const Control& control);
+
+}  // namespace veld
