@@ -148,10 +148,8 @@ QWidget* DesktopPlatform::Top() const {
   for (auto window = open_.rbegin(); window != open_.rend(); ++window) {
     if ((*window)->isVisible()) return *window;
   }
-  for (auto window = beside_.rbegin(); window != beside_.rend(); ++window) {
-    if (window->Window->isVisible()) return window->Window.get();
-  }
-  return main_.get();
+  QWidget* const beside = beside_.Top([](const FormWindow& window) { return window.isVisible(); });
+  return beside ? beside : main_.get();
 }
 
 void DesktopPlatform::RunForm(Form& form) {
@@ -164,19 +162,17 @@ void DesktopPlatform::RunForm(Form& form) {
 }
 
 void DesktopPlatform::ShowWindow(std::shared_ptr<Form> form) {
-  auto window = std::make_unique<FormWindow>(*form, Style(), main_.get());
-  FormWindow* const shown = window.get();
-  shown->onOver = [this] { SweepSoon(); };
-  shown->onError = [this](std::exception_ptr error) { Fail(std::move(error)); };
-  beside_.push_back({std::move(form), std::move(window)});
-  shown->ShowAt(main_ ? main_->PagePlace() : QPoint());
+  auto page = std::make_unique<FormWindow>(*form, Style(), main_.get());
+  FormWindow& window = beside_.Add(std::move(form), std::move(page));
+  window.onOver = [this] { SweepSoon(); };
+  window.onError = [this](std::exception_ptr error) { Fail(std::move(error)); };
+  window.ShowAt(main_ ? main_->PagePlace() : QPoint());
 }
 
 /// Closed windows are swept away when no dialog runs that could still stand over one, or have been opened by a handler
 /// of one.
 void DesktopPlatform::Sweep() {
-  if (!open_.empty()) return;
-  std::erase_if(beside_, [](const Beside& beside) { return beside.Window->IsOver(); });
+  if (open_.empty()) beside_.Sweep();
 }
 
 void DesktopPlatform::SweepSoon() {
@@ -212,7 +208,7 @@ void DesktopPlatform::RunMainWindow(const MainWindow& window) {
   main_->show();
   loop.exec();
   mainLoop_ = nullptr;
-  beside_.clear();
+  beside_.Clear();
   main_.reset();
   if (error_) std::rethrow_exception(std::exchange(error_, nullptr));
 }

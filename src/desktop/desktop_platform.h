@@ -8,6 +8,7 @@
 
 #include "desktop/style.h"
 #include "platform/platform.h"
+#include "platform/windows_beside.h"
 
 class QEventLoop;
 class QFileDialog;
@@ -50,11 +51,6 @@ class DesktopPlatform : public Platform {
 
  private:
   struct Progress;
-  /// A window that stays beside the main window, and its form.
-  struct Beside {
-    std::shared_ptr<Form> Shown;
-    std::unique_ptr<FormWindow> Window;
-  };
 
   const PaperStyle& Style();
   QWidget* Top() const;
@@ -68,7 +64,7 @@ class DesktopPlatform : public Platform {
   std::optional<PaperStyle> style_;
   std::unique_ptr<MainPage> main_;
   std::vector<QWidget*> open_;  ///< dialogs that are running, the topmost last
-  std::vector<Beside> beside_;
+  WindowsBeside<FormWindow> beside_;
   std::unique_ptr<Progress> progress_;
   QEventLoop* mainLoop_ = nullptr;
   std::exception_ptr error_;  ///< of a handler that no dialog runs; thrown on by RunMainWindow

@@ -1,7 +1,11 @@
 #include "platform/platform.h"
 
+#include <algorithm>
 #include <filesystem>
+#include <system_error>
 
+#include "text/format.h"
+#include "text/search.h"
 #include "text/utf8.h"
 
 namespace veld {
@@ -26,6 +30,14 @@ constexpr FormTemplate kQuestionTemplate{"Question", "VELD", kQuestionControls};
 
 }  // namespace
 
+std::string WithExtension(std::string path, std::span<const FileFilter> filters, std::size_t chosen) {
+  const bool isKnown = std::ranges::any_of(filters, [&](const FileFilter& filter) {
+    return !filter.Extension.empty() && EndsIgnoringCase(path, filter.Extension);
+  });
+  if (!isKnown && chosen < filters.size()) path += filters[chosen].Extension;
+  return path;
+}
+
 void Platform::ShowMessage(std::string_view text, std::string_view caption) {
   DoShowMessage(DisplayText(caption), DisplayText(text));
 }
@@ -40,12 +52,17 @@ std::optional<std::string> Platform::AskOpenPath(std::string_view caption, std::
 
 std::optional<std::string> Platform::AskSavePath(std::string_view caption, std::span<const FileFilter> filters,
                                                  std::string_view suggestedName) {
-  auto chosen = DoAskSavePath(std::string(caption), filters, std::string(suggestedName));
-  if (!chosen || chosen->Path.empty()) return std::nullopt;
-  if (std::filesystem::path(chosen->Path).extension().empty() && chosen->Filter < filters.size()) {
-    chosen->Path += filters[chosen->Filter].Extension;
+  std::string name(suggestedName);
+  while (const auto chosen = DoAskSavePath(std::string(caption), filters, name)) {
+    if (chosen->Path.empty()) break;
+    const std::string path = WithExtension(chosen->Path, filters, chosen->Filter);
+    // The front end has asked about a file of the name as it was typed.
+    std::error_code ignored;
+    if (path == chosen->Path || !std::filesystem::exists(path, ignored)) return path;
+    name = std::filesystem::path(path).filename().string();
+    if (Confirms(caption, Format("%s is there already. Do you want to replace it?", name))) return path;
   }
-  return chosen->Path;
+  return std::nullopt;
 }
 
 void RunMessageForm(Platform& platform, const std::string& caption, const std::string& text) {

@@ -30,6 +30,10 @@ struct ChosenPath {
   std::size_t Filter = 0;  ///< which of the filters stood chosen
 };
 
+/// `path` with the extension of the chosen filter, unless it ends in that of one of the filters, in capitals or not:
+/// what follows the point in "St. Ada" is none.
+std::string WithExtension(std::string path, std::span<const FileFilter> filters, std::size_t chosen);
+
 /// The one top-level window: a title, a menu and ruled paper.
 struct MainWindow {
   std::string Title;
@@ -51,8 +55,8 @@ class Platform {
   bool Confirms(std::string_view caption, std::string_view text) { return AskYesNo(caption, text) == Answer::Yes; }
   /// Asks for a file to load; nothing if the player cancels.
   std::optional<std::string> AskOpenPath(std::string_view caption, std::span<const FileFilter> filters);
-  /// Asks for a file to save, asking before one is overwritten; nothing if the player cancels. A name without an
-  /// extension gets that of the chosen filter.
+  /// Asks for a file to save, asking before one is overwritten; nothing if the player cancels. A name that ends in the
+  /// extension of none of the filters gets that of the chosen one.
   std::optional<std::string> AskSavePath(std::string_view caption, std::span<const FileFilter> filters,
                                          std::string_view suggestedName);
 

@@ -82,6 +82,7 @@ FormScreen::FormScreen(Form& form, Screen& screen, Place place, std::string_view
 }
 
 FormScreen::~FormScreen() {
+  screen_.Remove(*this);
   form_.SetObserver(nullptr);
 }
 

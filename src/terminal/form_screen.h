@@ -25,7 +25,7 @@ class FormScreen : public Layer, private FormObserver {
   void FocusFirst();  ///< once the form has been opened
   void Draw(bool isActive) override;
   void HandleKey(const Key& key);
-  Form& Shown() { return form_; }
+  bool IsOver() const { return form_.IsClosed(); }
   bool HasLetter(char32_t letter) const;  ///< Alt with this letter does something here
 
   std::function<bool()> onTab;  ///< before Tab moves on; returns true if it has used the key

@@ -37,10 +37,6 @@ constexpr ControlTemplate kPathControls[] = {
 };
 constexpr FormTemplate kPathTemplate{"Path", "VELD", kPathControls};
 
-bool EndsIgnoringCase(std::string_view text, std::string_view end) {
-  return text.size() >= end.size() && EqualsIgnoringCase(text.substr(text.size() - end.size()), end);
-}
-
 bool IsFolder(const fs::path& path) {
   std::error_code ignored;
   return fs::is_directory(path, ignored);
@@ -154,15 +150,16 @@ void TakePath(PathPage& page) {
   if (name.empty()) return;
   fs::path path = TypedPath(page.folder, name);
   if (IsFolder(path)) return EnterFolder(page, path);
+  const fs::path whole = WithExtension(path.string(), page.filters, page.filter);
   if (page.isForSaving) {
-    if (path.extension().empty()) path += page.Extension();
+    path = whole;
     const std::string question = Format("%s is there already. Do you want to replace it?", path.filename().string());
     if (IsThere(path) && !page.platform.Confirms("Save", question)) return;
     if (!IsFolder(path.parent_path())) {
       return page.platform.ShowMessage(Format("There is no folder %s.", path.parent_path().string()));
     }
   } else {
-    if (!IsThere(path) && path.extension().empty()) path += page.Extension();
+    if (!IsThere(path) && IsThere(whole)) path = whole;
     if (!IsThere(path)) return page.platform.ShowMessage(Format("There is no file %s.", path.string()));
   }
   page.chosen = ChosenPath{path.string(), page.filter};

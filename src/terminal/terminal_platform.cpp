@@ -128,27 +128,10 @@ void TerminalPlatform::ShowWindow(std::shared_ptr<Form> form) {
   std::string letters;
   for (const MenuItem& menu : desk_->Menu) letters += static_cast<char>(MarkedLetterOf(menu.Text));
   auto page = std::make_unique<FormScreen>(*form, screen_, FormScreen::Place::Window, letters);
-  FormScreen& shown = *page;
-  beside_.push_back({form, std::move(page)});
+  FormScreen& shown = beside_.Add(form, std::move(page));
   form->Open();
   shown.FocusFirst();
   screen_.Push(shown);
-}
-
-FormScreen* TerminalPlatform::TopWindow() {
-  for (auto window = beside_.rbegin(); window != beside_.rend(); ++window) {
-    if (!window->Shown->IsClosed()) return window->Page.get();
-  }
-  return nullptr;
-}
-
-/// Windows that have closed go when no handler of theirs can still run.
-void TerminalPlatform::SweepWindows() {
-  std::erase_if(beside_, [&](const Beside& window) {
-    if (!window.Shown->IsClosed()) return false;
-    screen_.Remove(*window.Page);
-    return true;
-  });
 }
 
 // --- The main window -----------------------------------------------------------------------------------------------
@@ -164,18 +147,17 @@ void TerminalPlatform::RunMainWindow(const MainWindow& window) {
     screen_.Paint();
     if (window.onStart) window.onStart();
     while (!isClosed_ && !screen_.IsLost()) {
-      SweepWindows();
+      beside_.Sweep();  // no handler of theirs can still run
       HandleMainKey(window, screen_.ReadKey());
     }
   } catch (const RunBrokenOff&) {
     // The character is as far as it got.
   }
-  for (const Beside& beside : beside_) screen_.Remove(*beside.Page);
-  beside_.clear();
+  beside_.Clear();
 }
 
 void TerminalPlatform::HandleMainKey(const MainWindow& window, const Key& key) {
-  FormScreen* page = TopWindow();
+  FormScreen* page = beside_.Top([](const FormScreen& shown) { return !shown.IsOver(); });
   if (key.Kind == KeyKind::MainMenu) return RunMenuBar(window, 0);
   const bool isLetter = key.Kind == KeyKind::Character && (key.IsAlt || !page);
   if (isLetter && !(page && page->HasLetter(key.Character))) {

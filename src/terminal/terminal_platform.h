@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "platform/platform.h"
+#include "platform/windows_beside.h"
 #include "terminal/form_screen.h"
 #include "terminal/screen.h"
 
@@ -36,23 +37,16 @@ class TerminalPlatform : public Platform {
  private:
   class Desk;
   struct Progress;
-  /// A window beside the main window, with its form.
-  struct Beside {
-    std::shared_ptr<Form> Shown;
-    std::unique_ptr<FormScreen> Page;
-  };
 
   void RunPage(Form& form, const std::function<bool()>& onTab);
   void LeaveForm(Form& form);
-  FormScreen* TopWindow();
-  void SweepWindows();
   void HandleMainKey(const MainWindow& window, const Key& key);
   void RunMenuBar(const MainWindow& window, std::size_t menu);
 
   Screen& screen_;
   std::unique_ptr<Desk> desk_;
   std::unique_ptr<Progress> progress_;
-  std::vector<Beside> beside_;
+  WindowsBeside<FormScreen> beside_;
   bool isClosed_ = false;
   int leftForms_ = 0;  ///< since the terminal was lost
 };

@@ -21,6 +21,11 @@ inline bool EqualsIgnoringCase(std::string_view a, std::string_view b) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end(), IsSameLetter);
 }
 
+/// True if `text` ends in `end`, without regard to the case of the letters A to Z.
+inline bool EndsIgnoringCase(std::string_view text, std::string_view end) {
+  return text.size() >= end.size() && EqualsIgnoringCase(text.substr(text.size() - end.size()), end);
+}
+
 /// As Contains, without regard to the case of the letters A to Z.
 inline bool ContainsIgnoringCase(std::string_view text, std::string_view part) {
   return !part.empty() && std::search(text.begin(), text.end(), part.begin(), part.end(), IsSameLetter) != text.end();
