@@ -1,6 +1,7 @@
 #include "generation/save_by_extension.h"
 
 #include "sheets/sheet_save.h"
+#include "steps/step_three.h"
 #include "store/character_file.h"
 #include "text/file_name.h"
 #include "text/search.h"
@@ -41,7 +42,6 @@ void SaveByExtension(Game& game, const std::string& path) {
 }
 
 bool AskAndSaveCharacter(Game& game) {
-  // With the extension: what follows the point in "St. Ada" would be taken for one.
   std::string name = FileNamePart(game.sheet.CharacterName);
   if (!name.empty()) name += kSaveFilters[0].Extension;
   const auto path = game.platform.AskSavePath("Save", kSaveFilters, name);
@@ -53,7 +53,7 @@ bool AskAndSaveCharacter(Game& game) {
 bool AskAndLoadCharacter(Game& game) {
   const auto path = game.platform.AskOpenPath("Load", kLoadFilters);
   if (!path) return false;
-  if (LoadCharacterFile(game, *path)) game.hasRecoveryCopy = false;  // another character has the memory now
+  if (LoadCharacterFile(game, *path)) CloseStepThree(game);  // which was of the character that has gone
   return true;
 }
 

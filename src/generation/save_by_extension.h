@@ -13,7 +13,8 @@ void SaveByExtension(Game& game, const std::string& path);
 /// Asks for a path with the file types a character can be saved as, and saves. Returns false if the player cancelled.
 bool AskAndSaveCharacter(Game& game);
 
-/// Asks for a character file and loads it. Returns false if the player cancelled.
+/// Asks for a character file and loads it; StepThree closes once one has been read. Returns false if the player
+/// cancelled.
 bool AskAndLoadCharacter(Game& game);
 
 }  // namespace veld

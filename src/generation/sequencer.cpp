@@ -157,6 +157,8 @@ void FinishCharacter(Game& game) {
   RunEquip(game);
   game.run.CurrentStep = 20;
   RollRefereeQuirks(game);
+  game.isFinished = true;
+  KeepRecoveryCopy(game);
   UpdateMainTitle(game, game.sheet.CharacterName);
   if (!game.platform.Confirms("Save", Format("Save your character - %s?", game.sheet.CharacterName))) return;
   if (AskAndSaveCharacter(game)) UpdateMainTitle(game, game.sheet.CharacterName);

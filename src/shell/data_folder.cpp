@@ -1,10 +1,15 @@
 #include "shell/data_folder.h"
 
+#include <fcntl.h>
 #include <unistd.h>
 
+#include <array>
 #include <cstdlib>
-#include <string>
 #include <system_error>
+
+#include "store/recovery.h"
+#include "store/safe_file.h"
+#include "text/format.h"
 
 namespace veld {
 
@@ -12,12 +17,24 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Copies by a temporary name, so that another copy of the program that starts now never sees half a file.
-void CopyWhole(const fs::path& from, const fs::path& to) {
+constexpr std::size_t kLargestShippedFile = 64'000'000;
+
+/// Makes a folder the working directory if files can be made in it.
+bool EnterFolder(const fs::path& folder) {
   std::error_code error;
-  const fs::path half = to.string() + ".copy" + std::to_string(getpid());
-  if (fs::copy_file(from, half, fs::copy_options::overwrite_existing, error)) fs::rename(half, to, error);
-  if (error) fs::remove(half, error);
+  fs::create_directories(folder, error);
+  if (faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) != 0) return false;
+  fs::current_path(folder, error);
+  return !error;
+}
+
+void CopyMissing(const fs::path& shipped) {
+  for (const char* name : kShippedFiles) {
+    std::error_code error;
+    std::string bytes;
+    if (shipped.empty() || fs::exists(name, error)) continue;
+    if (ReadWholeFile(shipped / name, bytes, kLargestShippedFile) == FileRead::Done) SaveWholeFile(name, bytes);
+  }
 }
 
 }  // namespace
@@ -40,17 +57,21 @@ fs::path ShippedDataFolder() {
   return {};
 }
 
-bool EnterDataFolder(const fs::path& folder, const fs::path& shipped) {
+std::string EnterDataFolder(const fs::path& folder, const fs::path& shipped) {
   std::error_code error;
-  if (fs::exists("options.vlb", error)) return true;
-  fs::create_directories(folder, error);
-  fs::current_path(folder, error);
-  if (error) return false;
-  if (shipped.empty()) return true;
-  for (const char* name : kShippedFiles) {
-    if (!fs::exists(name, error)) CopyWhole(shipped / name, name);
+  const fs::path start = fs::current_path(error);
+  const bool isOwn = fs::is_regular_file("options.vlb", error);
+  std::string told;
+  for (const fs::path& possible : isOwn ? std::array{start, folder} : std::array{folder, start}) {
+    if (!EnterFolder(possible)) {
+      told += Format("The folder %s can not be written. ", possible.string());
+      continue;
+    }
+    for (const char* place : {".", kRecoveryFolder}) RemoveLeftFiles(place);
+    if (!isOwn || possible != start) CopyMissing(shipped);
+    return told.empty() ? told : told + Format("VELD works in %s.", possible.string());
   }
-  return true;
+  return told + "What you do is lost unless you save it elsewhere.";
 }
 
 }  // namespace veld

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 
 namespace veld {
 
@@ -13,8 +14,10 @@ std::filesystem::path UserDataFolder();
 /// The folder of the shipped files that belongs to this program; empty if there is none.
 std::filesystem::path ShippedDataFolder();
 
-/// Makes `folder` (created if need be) the working directory and copies what is missing there from `shipped`. Started
-/// inside a folder that already holds an options.vlb the program stays there. Returns false if the folder can't be used.
-bool EnterDataFolder(const std::filesystem::path& folder, const std::filesystem::path& shipped);
+/// Makes the first of these folders in which files can be made the working directory: that of the program's start, if
+/// it holds an options.vlb; `folder`, which is made if need be; that of the start in any case. What a killed program
+/// has left there is removed, and what is missing from `shipped` is copied, but not to a start folder with options of
+/// its own. Returns what the player is to be told of folders that can not be written; nothing if all is well.
+std::string EnterDataFolder(const std::filesystem::path& folder, const std::filesystem::path& shipped);
 
 }  // namespace veld

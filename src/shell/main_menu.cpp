@@ -17,7 +17,7 @@ namespace {
 
 void NewCharacter(Game& game) {
   CloseStepThree(game);
-  LeaveRecoveryCopy(game);
+  KeepRecoveryCopy(game);
   UpdateMainTitle(game, "Nobody");
   ResetCharacter(game);
   RollAbilityScores(game);
@@ -29,14 +29,14 @@ void Save(Game& game) {
 }
 
 void Load(Game& game) {
-  CloseStepThree(game);
   KeepRecoveryCopy(game);
   if (AskAndLoadCharacter(game)) UpdateMainTitle(game, game.sheet.CharacterName);
 }
 
 void RecoverCharacter(Game& game) {
+  if (!RunRecover(game)) return;
   CloseStepThree(game);
-  if (RunRecover(game)) UpdateMainTitle(game, game.sheet.CharacterName);
+  UpdateMainTitle(game, game.sheet.CharacterName);
 }
 
 }  // namespace

@@ -12,7 +12,7 @@ constexpr int kCancel = 2;
 
 constexpr ControlTemplate kRecoverControls[] = {
     LabelAt(0, 0, "&Characters that were in memory, the latest first"),
-    ListAt(1, 0, kCopies, 60, kRecoveryCopies),
+    ListAt(1, 0, kCopies, 60, 2 * kRecoveryCopies),
     ButtonAt(2, 0, kOk, "&Recover", ButtonRole::Default),
     ButtonAt(2, 0, kCancel, "Cancel", ButtonRole::Cancel),
 };
@@ -28,7 +28,10 @@ bool RunRecover(Game& game) {
   }
   Form form(kRecoverTemplate);
   std::vector<std::string> lines;
-  for (const RecoveryCopy& copy : copies) lines.push_back(Format("%s, %s, %s", copy.Name, copy.ClassName, copy.Time));
+  for (const RecoveryCopy& copy : copies) {
+    const char* const state = copy.IsFinished ? "" : ", unfinished";
+    lines.push_back(Format("%s, %s, %s%s", copy.Name, copy.ClassName, copy.Time, state));
+  }
   form.SetItems(kCopies, std::move(lines));
   form.Select(kCopies, 0);
   int chosen = -1;
@@ -38,7 +41,7 @@ bool RunRecover(Game& game) {
   };
   game.platform.RunForm(form);
   if (chosen < 0) return false;
-  if (Recover(game, copies[static_cast<std::size_t>(chosen)].Path)) return true;
+  if (Recover(game, copies[static_cast<std::size_t>(chosen)])) return true;
   game.platform.ShowMessage("This file can not be loaded.");
   return false;
 }

@@ -1,5 +1,7 @@
 #include "shell/veld.h"
 
+#include <csignal>
+
 #include "generation/main_title.h"
 #include "shell/data_folder.h"
 #include "shell/main_menu.h"
@@ -9,16 +11,15 @@
 namespace veld {
 
 int RunVeld(Platform& platform) {
-  const bool hasFolder = EnterDataFolder(UserDataFolder(), ShippedDataFolder());
+  // A file that may not grow, and a log whose reader has gone, fail their write; they do not end the program.
+  for (const int number : {SIGXFSZ, SIGPIPE}) std::signal(number, SIG_IGN);
+  const std::string told = EnterDataFolder(UserDataFolder(), ShippedDataFolder());
   std::unique_ptr<Game> game;  // made once the window stands: its size takes longer than the window
   MainWindow window;
   window.Title = kProgramTitle;
   window.Menu = MainMenu();
   window.onStart = [&] {
-    if (!hasFolder) {
-      platform.ShowMessage(Format("The data folder %s can not be used. VELD works in the folder it was started in.",
-                                  UserDataFolder().string()));
-    }
+    if (!told.empty()) platform.ShowMessage(told);
     game = MakeGame(platform);
     StartUp(*game);
   };

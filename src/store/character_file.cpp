@@ -274,6 +274,7 @@ bool KeepOlderVersion(const std::string& path, SaveWay way) {
 }  // namespace
 
 const CharacterFormat* FormatOf(std::string_view bytes) {
+  if (bytes.size() < kVersionBytes) return nullptr;
   FixedText<kVersionBytes> version;
   ByteReader(bytes).Pass(version);
   const auto known = std::ranges::find(kCharacterFormats, version.View(), &CharacterFormat::Version);
@@ -284,7 +285,7 @@ LoadResult DecodeCharacter(std::string_view bytes, CharacterDraft& draft) {
   const CharacterFormat* format = FormatOf(bytes);
   if (format == nullptr) return LoadResult::UnknownVersion;
   CharacterSheet& sheet = *std::construct_at(&draft.sheet);
-  ByteReader file(bytes.substr(std::min(kVersionBytes, bytes.size())));
+  ByteReader file(bytes.substr(kVersionBytes));
   if (!PassCharacter(file, sheet, draft.goods, *format)) return LoadResult::Damaged;
   UpdateTalents(sheet, format->Version);
   DropStrayCodes(sheet);
@@ -304,6 +305,7 @@ void TakeCharacter(Game& game, const CharacterDraft& draft) {
   ResetCharacter(game);
   const FixedText<200> playerName = game.sheet.PlayerName;
   game.sheet = draft.sheet;
+  game.isFinished = true;
   game.sheet.PlayerName = playerName;
   for (std::size_t row = 0; row < kEquipmentRows; ++row) {
     game.EquipmentTable[row].Quantity = draft.goods.Quantities[row];
@@ -314,6 +316,7 @@ void TakeCharacter(Game& game, const CharacterDraft& draft) {
 bool SaveCharacterFile(Game& game, const std::string& path, SaveWay way) {
   const std::string bytes = EncodeCharacter(game);
   const bool isSaved = !bytes.empty() && KeepOlderVersion(path, way) && SaveWholeFile(path, bytes, way);
+  if (isSaved) game.isFinished = true;
   game.platform.ShowMessage(isSaved ? "File saved in vlf format" : "Problem Saving vlf 4.5 file");
   return isSaved;
 }

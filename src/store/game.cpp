@@ -106,6 +106,8 @@ void ResetCharacter(Game& game) {
   std::construct_at(&game.sheet);
   std::construct_at(&game.run);
   game.sheet.PlayerName = playerName;
+  game.isFinished = false;
+  game.recoveryCopy.clear();
   for (std::size_t row = 0; row < kQuirkRows; ++row) game.run.QuirkBPCosts[row] = QuirkTable()[row].BPCost;
   for (EquipmentRecord& goods : game.EquipmentTable) goods.Quantity = 0;
   for (EquipmentRecord& goods : game.CustomEquipmentTable) goods.Quantity = 0;

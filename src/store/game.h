@@ -59,7 +59,8 @@ struct Game {
   std::array<SpellRecord, kSpellRows> SpellTable{};
   std::string TextScratch;            ///< the name that a purchase or grant is for
   std::shared_ptr<Form> stepThree;    ///< the open StepThree window
-  bool hasRecoveryCopy = false;       ///< the character in memory has a recovery copy of its own
+  bool isFinished = false;            ///< the character has come to the end of its generation, from a file or into one
+  std::string recoveryCopy;           ///< which recovery copy is that of the character; empty: none yet
 
   bool IsOn(std::size_t ruleSwitch) const { return ruleSwitch < kRuleSwitches && RuleSwitches[ruleSwitch] == 1; }
 };
@@ -68,7 +69,7 @@ struct Game {
 std::unique_ptr<Game> MakeGame(Platform& platform);
 
 /// Puts the character, the run and all quantities owned to their defaults, the core rules on, and seeds the dice with
-/// the clock. Keeps the player's name and what the catalogues hold.
+/// the clock. Keeps the player's name, what the catalogues hold, and the recovery copy of the character that was there.
 void ResetCharacter(Game& game);
 
 }  // namespace veld

@@ -9,29 +9,31 @@
 
 namespace veld {
 
-/// Recovery copies in the working directory, newest first: autosave.vlf, autosave2.vlf, ... Each belongs to one
-/// character in memory; it is written again and again while that character stays there.
+// Recovery copies: character files in a folder of the working directory. Each belongs to one character in memory and is
+// written again and again while that character stays there. Its name tells when it was begun, by which process, and
+// whether the character is finished: "20261121-140533-1234-1-finished.vlf".
+
+inline constexpr char kRecoveryFolder[] = "recovery";
+/// How many finished characters are kept, and how many unfinished ones beside them.
 inline constexpr int kRecoveryCopies = 5;
 
-/// Writes the character in memory over its recovery copy, silently; the first time for a character the older copies
-/// move on and the last one goes. A character that nobody has begun is not kept. Without the flush to disk: a copy
-/// guards against the program's end, and there are five.
-void KeepRecoveryCopy(Game& game);
-
-/// As KeepRecoveryCopy, and the next copy is a new one: called before another character takes the memory.
-void LeaveRecoveryCopy(Game& game);
+/// Writes the character in memory over its recovery copy, silently. Once that is done the oldest copies beyond five of
+/// their kind go, but not those of a program that still runs. A character that nobody has begun is not kept. Without
+/// the flush to disk: a copy guards against the program's end.
+void KeepRecoveryCopy(Game& game, SaveWay way = {.Flush = false});
 
 struct RecoveryCopy {
   std::string Path;
   std::string Name;
   std::string ClassName;
   std::string Time;  ///< "2026-11-21 14:05", of the desktop's time zone
+  bool IsFinished = false;
 };
 
-/// The copies that can be loaded, newest first.
+/// The copies that can be loaded, newest first; with them the autosave.vlf to autosave5.vlf of earlier versions.
 std::vector<RecoveryCopy> RecoveryCopies();
 
 /// Makes a copy the character in memory; the one that was there is kept as a copy first. False if it can't be read.
-bool Recover(Game& game, const std::string& path);
+bool Recover(Game& game, const RecoveryCopy& copy);
 
 }  // namespace veld

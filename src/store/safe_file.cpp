@@ -1,6 +1,7 @@
 #include "store/safe_file.h"
 
 #include <fcntl.h>
+#include <signal.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -11,6 +12,7 @@
 #include <system_error>
 
 #include "text/format.h"
+#include "text/numbers.h"
 
 namespace veld {
 
@@ -54,6 +56,23 @@ std::string EndOfLinks(const std::string& path) {
     at = next.is_absolute() ? next : at.parent_path() / next;
   }
   return {};
+}
+
+// ".veld-PROCESS-SERIAL.tmp"
+constexpr std::string_view kTemporaryStart = ".veld-";
+constexpr std::string_view kTemporaryEnd = ".tmp";
+
+/// The process that a temporary file of this name is of; 0 if the name is none of those.
+std::int64_t ProcessOf(std::string_view name) {
+  if (!name.starts_with(kTemporaryStart) || !name.ends_with(kTemporaryEnd)) return 0;
+  name.remove_prefix(kTemporaryStart.size());
+  name.remove_suffix(std::min(kTemporaryEnd.size(), name.size()));
+  const std::size_t dash = name.find('-');
+  const auto isNumber = [](std::string_view part) {
+    return !part.empty() && part.find_first_not_of("0123456789") == std::string_view::npos;
+  };
+  if (dash == std::string_view::npos || !isNumber(name.substr(0, dash)) || !isNumber(name.substr(dash + 1))) return 0;
+  return ReadNumberPrefix(name);
 }
 
 /// A file of this save's own in the folder of the file that it is to replace; gone unless it took that place.
@@ -104,7 +123,7 @@ class TemporaryFile {
  private:
   int make() {
     for (int serial = 0; serial < 1000; ++serial) {
-      const std::string name = Format(".veld-%i-%i.tmp", getpid(), serial);
+      const std::string name = Format("%s%i-%i%s", kTemporaryStart, getpid(), serial, kTemporaryEnd);
       path_ = folder_.empty() ? name : folder_ + "/" + name;
       const int file = open(path_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
       if (file >= 0 || errno != EEXIST) return file;
@@ -170,6 +189,22 @@ bool KeepBackup(const std::string& path, std::string_view old, SaveWay way) {
     }
   }
   return false;
+}
+
+void RemoveLeftFiles(const std::string& folder) {
+  std::error_code error;
+  for (std::filesystem::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
+    const std::int64_t process = ProcessOf(entry->path().filename().string());
+    std::error_code ignored;
+    if (process == 0 || RunsElsewhere(process) || !is_regular_file(entry->symlink_status(ignored))) continue;
+    std::filesystem::remove(entry->path(), ignored);
+  }
+}
+
+bool RunsElsewhere(std::int64_t process) {
+  const auto id = static_cast<pid_t>(process);
+  if (id != process || id <= 0 || id == getpid()) return false;
+  return kill(id, 0) == 0 || errno == EPERM;
 }
 
 }  // namespace veld

@@ -30,4 +30,11 @@ bool SaveWholeFile(const std::string& path, std::string_view bytes, SaveWay way 
 /// earlier backup with other contents stays, and the next free of ".bak2" to ".bak99" is taken.
 bool KeepBackup(const std::string& path, std::string_view old, SaveWay way = {});
 
+/// Removes what a killed program has left in a folder amid a save: regular files of the name of such a temporary file
+/// whose process runs no more. For the start of the program: a file of this very process is an earlier one's too.
+void RemoveLeftFiles(const std::string& folder);
+
+/// True if a process of this number runs that is not this one.
+bool RunsElsewhere(std::int64_t process);
+
 }  // namespace veld

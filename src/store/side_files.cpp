@@ -1,6 +1,7 @@
 #include "store/side_files.h"
 
 #include <algorithm>
+#include <span>
 
 #include "rules/skills_tsv.h"
 #include "store/byte_reader.h"
@@ -91,7 +92,9 @@ void TakeSpell(std::string_view& rest, SpellRecord& spell) {
 }  // namespace
 
 void DecodeOptions(std::string_view bytes, RuleSwitchArray& switches) {
-  ByteReader(bytes).Pass(switches);
+  // A file that is too short tells nothing of the other switches; they are on, as on a first run.
+  switches.fill(1);
+  ByteReader(bytes).Pass(std::span(switches).first(std::min(bytes.size() / sizeof(int), switches.size())));
   for (int& value : switches) value = value > 0 ? 1 : 0;
   switches[kCoreRules] = 1;
 }

@@ -33,7 +33,7 @@ using RuleSwitchArray = std::array<int, kRuleSwitches>;
 using EquipmentArray = std::array<EquipmentRecord, kEquipmentRows>;
 using SpellArray = std::array<SpellRecord, kSpellRows>;
 
-/// The switches of options.vlb, each 0 or 1; what is on there, is above 0.
+/// The switches of options.vlb, each 0 or 1; what is on there, is above 0. Those that the file is too short for are on.
 void DecodeOptions(std::string_view bytes, RuleSwitchArray& switches);
 std::string EncodeOptions(const RuleSwitchArray& switches);
 

@@ -1,5 +1,10 @@
 #include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
+#include <cstdlib>
 #include <filesystem>
 
 #include "generation/save_by_extension.h"
@@ -9,6 +14,7 @@
 #include "shell/main_menu.h"
 #include "shell/options_dialog.h"
 #include "shell/start_up.h"
+#include "shell/veld.h"
 #include "store/side_files.h"
 #include "support/scripted_platform.h"
 #include "text/search.h"
@@ -176,19 +182,77 @@ TEST(DataFolderTest, TheUsersFolderGetsWhatShipsAndKeepsWhatItHas) {
   WriteText("shipped/equip.vlb", "goods");
   WriteText("shipped/spells.vld", "spells");
   const fs::path start = fs::current_path();
-  ASSERT_TRUE(EnterDataFolder(start / "home" / "veld", start / "shipped"));
+  ASSERT_EQ(EnterDataFolder(start / "home" / "veld", start / "shipped"), "");
   EXPECT_EQ(fs::current_path(), start / "home" / "veld");
   EXPECT_EQ(FileText("equip.vlb"), "goods");
   WriteText("equip.vlb", "my goods");
   WriteText("options.vlb", "");
-  ASSERT_TRUE(EnterDataFolder(start / "elsewhere", start / "shipped"));
+  ASSERT_EQ(EnterDataFolder(start / "elsewhere", start / "shipped"), "");
   EXPECT_EQ(fs::current_path(), start / "home" / "veld") << "a folder with its own options is stayed in";
   fs::current_path(start);
-  ASSERT_TRUE(EnterDataFolder(start / "home" / "veld", start / "shipped"));
+  fs::create_directory("options.vlb");  // none that could be read
+  ASSERT_EQ(EnterDataFolder(start / "home" / "veld", start / "shipped"), "");
+  EXPECT_EQ(fs::current_path(), start / "home" / "veld");
   EXPECT_EQ(FileText("equip.vlb"), "my goods");
-  fs::current_path(start);
-  WriteText("blocked", "a file");
-  EXPECT_FALSE(EnterDataFolder(start / "blocked" / "veld", {}));
+}
+
+/// Ends a child process with success, met by a user who is not root.
+template <typename Check>
+[[noreturn]] void EndAsUser(Check check) {
+  if (geteuid() == 0 && seteuid(65534) != 0) _exit(2);
+  _exit(check() ? 0 : 1);
+}
+
+TEST(DataFolderTest, FoldersThatCanNotBeWrittenAreToldAndTheNextIsUsed) {
+  TestFolder folder;
+  const fs::path start = fs::current_path();
+  fs::permissions(start, fs::perms(0755));
+  for (const char* name : {"own", "home", "open", "shipped"}) fs::create_directory(name);
+  WriteText("shipped/equip.vlb", "goods");
+  WriteText("own/options.vlb", "");
+  fs::permissions("open", fs::perms(0777));
+  for (const char* name : {"own", "home"}) fs::permissions(name, fs::perms(0555));
+  const auto enters = [&](const fs::path& from, const fs::path& data, const fs::path& used, const std::string& told) {
+    fs::current_path(from);
+    const std::string tells = EnterDataFolder(data, start / "shipped");
+    return fs::current_path() == used && tells == told && (used == from || FileText("equip.vlb") == "goods");
+  };
+  const std::string own = Format("The folder %s can not be written. ", (start / "own").string());
+  const std::string home = Format("The folder %s can not be written. ", (start / "home").string());
+  const std::string works = Format("VELD works in %s.", (start / "open").string());
+  const auto expect = [&](const auto& check) { EXPECT_EXIT(EndAsUser(check), ::testing::ExitedWithCode(0), ""); };
+  expect([&] { return enters(start / "own", start / "open", start / "open", own + works); });
+  expect([&] { return enters(start / "open", start / "home", start / "open", home + works); });
+  expect([&] {
+    return enters(start / "own", start / "home", start / "own",
+                  own + home + "What you do is lost unless you save it elsewhere.");
+  });
+}
+
+TEST(ProgramTest, AFileThatMayNotGrowIsToldAndWhatAKilledProgramLeftIsRemoved) {
+  TestFolder folder;
+  setenv("XDG_DATA_HOME", folder.Path().c_str(), 1);
+  fs::create_directories("veld/recovery");
+  const auto killed = fork();
+  if (killed == 0) _exit(0);
+  ASSERT_EQ(waitpid(killed, nullptr, 0), killed);
+  const std::string left = Format(".veld-%i-3.tmp", killed);
+  const std::string others[] = {Format("veld/.veld-%i-0.tmp", getpid()), Format("veld/.veld-%i.tmp", killed),
+                                Format("veld/.veld-%i-0.tmp.vlf", killed), "veld/.veld-.tmp"};
+  WriteText("veld/" + left, "half");
+  WriteText("veld/recovery/" + left, "half");
+  for (const std::string& other : others) WriteText(other, "not left by a killed program");
+  const auto run = [] {
+    signal(SIGXFSZ, SIG_DFL);
+    const rlimit small{10, RLIM_INFINITY};
+    setrlimit(RLIMIT_FSIZE, &small);
+    ScriptedPlatform platform;
+    RunVeld(platform);
+    _exit(platform.Showed("Problem Saving options.vlb file") ? 0 : 1);
+  };
+  EXPECT_EXIT(run(), ::testing::ExitedWithCode(0), "");
+  EXPECT_FALSE(fs::exists("veld/" + left) || fs::exists("veld/recovery/" + left));
+  for (const std::string& other : others) EXPECT_TRUE(fs::exists(other)) << other;
 }
 
 }  // namespace

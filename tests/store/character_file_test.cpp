@@ -225,7 +225,7 @@ TEST(HostileCharacterFile, AFileCutAtAnyByteReadsAsIfZerosFollowed) {
   const auto draft = std::make_unique<CharacterDraft>();
   // The cut file ends where its memory ends, so that the sanitizer sees a step behind it.
   const auto memory = std::make_unique<char[]>(golden.size());
-  for (std::size_t size = 4; size < golden.size(); ++size) {
+  for (std::size_t size = kVersionBytes; size < golden.size(); ++size) {
     char* const cut = memory.get() + golden.size() - size;
     std::memcpy(cut, golden.data(), size);
     ASSERT_EQ(DecodeCharacter({cut, size}, *draft), LoadResult::Loaded) << size;
@@ -236,7 +236,7 @@ TEST(HostileCharacterFile, AFileCutAtAnyByteReadsAsIfZerosFollowed) {
     const auto whole = Decoded(filled);
     ASSERT_EQ(EncodeCharacter(draft->sheet, draft->goods), EncodeCharacter(whole->sheet, whole->goods)) << size;
   }
-  for (std::size_t size = 0; size < 3; ++size) {
+  for (std::size_t size = 0; size < kVersionBytes; ++size) {
     EXPECT_EQ(DecodeCharacter(golden.substr(0, size), *draft), LoadResult::UnknownVersion);
   }
 }
@@ -274,7 +274,7 @@ TEST_F(LoadedFile, ReplacesTheCharacterAndTheRunButNotThePlayer) {
 TEST_F(LoadedFile, IsAnnouncedByItsVersionOrRefusedWithItsMessage) {
   game->sheet.CharacterName = "Ylva";
   WriteText("old.vlf", CharacterImage().As("4.50"));
-  WriteText("empty.vlf", "");
+  WriteText("short.vlf", "4.5");
   std::filesystem::create_directory("folder.vlf");
   const auto messagesOf = [&](const std::string& path) {
     platform.messages.clear();
@@ -285,7 +285,7 @@ TEST_F(LoadedFile, IsAnnouncedByItsVersionOrRefusedWithItsMessage) {
   EXPECT_EQ(messagesOf("none.vlf"), Messages{"VELD: Problem Loading vlf file"});
   EXPECT_EQ(messagesOf("folder.vlf"), Messages{"VELD: Problem Loading vlf file"});
   EXPECT_EQ(messagesOf("old.vlf"), Messages{"VELD: This file can not be loaded."});
-  EXPECT_EQ(messagesOf("empty.vlf"), Messages{"VELD: This file can not be loaded."});
+  EXPECT_EQ(messagesOf("short.vlf"), Messages{"VELD: This file can not be loaded."});
   EXPECT_EQ(game->sheet.CharacterName, "Ylva");
   platform.messages.clear();
   WriteText("a.vlf", HeldBy("4.1").As("4.1"));

@@ -187,10 +187,11 @@ TEST_F(SafeFile, AFileOfAnOlderVersionIsKeptBeforeItsFirstOverwriting) {
   EXPECT_TRUE(FileText("a.vlf.bak") == old);
   EXPECT_TRUE(SaveCharacterFile(*game, "a.vlf"));
   EXPECT_EQ(FilesHere(), 2u);
-  WriteText("a.vlf", "3.8.1");
+  const std::string older("3.8.1\0\0\0\0\0", 10);
+  WriteText("a.vlf", older);
   EXPECT_TRUE(SaveCharacterFile(*game, "a.vlf"));
   EXPECT_TRUE(FileText("a.vlf.bak") == old);
-  EXPECT_EQ(FileText("a.vlf.bak2"), "3.8.1");
+  EXPECT_EQ(FileText("a.vlf.bak2"), older);
   EXPECT_TRUE(platform.Showed("VELD: File saved in vlf format"));
 }
 

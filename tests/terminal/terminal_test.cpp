@@ -174,9 +174,10 @@ TEST_F(TerminalTest, AWholeGenerationIsPlayedFromNewCharacterToASavedFile) {
   EXPECT_EQ(program.WaitForEnd(), 0);
   for (const std::string& title : player.titles) std::cout << title << "; ";
   std::cout << player.typedDice << " throws typed\n";
-  for (const char* title : {"Step 3", "Step 6", "Step 8", "Step 9", "Step 10", "Skills", "Step 14", "Step 19"}) {
+  for (const char* title : {"Step 3", "Step 6", "Step 8", "Step 9", "Step 10", "Skills", "Step 19"}) {
     EXPECT_TRUE(player.titles.contains(title)) << title;
   }
+  EXPECT_EQ(player.titles.contains("Step 14"), game->sheet.Wisdom.Whole >= 6) << "the dice decide whether there is one";
 }
 
 /// Brings the program to a page of Step 3 with a race chosen, the dice rolled by the program.
@@ -266,6 +267,25 @@ TEST_F(TerminalTest, EveryCommandOfTheMenusIsReachedByKeyboard) {
   EXPECT_EQ(program.Title(), "") << program.Shows();
 }
 
+TEST_F(TerminalTest, ANewCharacterTakesThePlaceOfTheOneInStepThree) {
+  PtyProgram program(RunProgram);
+  PassMessages(program);
+  OpenStepThreeWithRace(program);
+  for (int again = 0; again < 3; ++again) {
+    program.Press(
+        "\x1B"
+        "f");
+    program.Press("n");
+    ASSERT_EQ(program.Title(), "Step 3") << program.Shows();
+  }
+  program.Press(kEscapeKey);
+  EXPECT_EQ(program.Title(), "") << program.Shows();
+  program.Press(
+      "\x1B"
+      "fx");
+  EXPECT_EQ(program.WaitForEnd(), 0);
+}
+
 TEST_F(TerminalTest, FilesAreFoundCompletedAndNotOverwrittenUnasked) {
   fs::create_directories(data_ / "heroes");
   std::ofstream(data_ / "heroes" / "notes.txt") << "kept";
@@ -305,6 +325,15 @@ TEST_F(TerminalTest, FilesAreFoundCompletedAndNotOverwrittenUnasked) {
   program.Press(kEscapeKey);
   EXPECT_EQ(program.Title(), "");
   EXPECT_EQ(FileText((data_ / "heroes" / "notes.txt").string()), "kept");
+  for (const char* answer : {"File saved in vlf format", "St. Ada.vlf is there already"}) {
+    program.Press(
+        "\x1B"
+        "f");
+    program.Press("s");
+    program.Press("\x15heroes/St. Ada" + std::string(kEnterKey));
+    EXPECT_TRUE(program.Shows(answer)) << program.Shows();
+    program.Press(kEscapeKey);
+  }
 }
 
 TEST_F(TerminalTest, AResizedTerminalIsDrawnAnewAndASmallOneScrolls) {
@@ -334,12 +363,15 @@ void ExpectRecoveryAfter(const fs::path& data, int (*run)(), End end) {
       "\x1B"
       "o");
   ASSERT_EQ(program.Title(), "Step 6") << program.Shows();
-  fs::remove(data / "autosave.vlf");
+  fs::remove_all(data / kRecoveryFolder);
   end(program);
   EXPECT_EQ(program.WaitForEnd(), 0);
   ScriptedPlatform platform;
   const auto game = MakeGame(platform);
-  EXPECT_TRUE(LoadCharacterFile(*game, (data / "autosave.vlf").string()));
+  fs::current_path(data);
+  const auto copies = RecoveryCopies();
+  ASSERT_EQ(copies.size(), 1U);
+  EXPECT_TRUE(Recover(*game, copies.front()));
   EXPECT_NE(game->sheet.RaceName.View(), "Unknown");
 }
 
