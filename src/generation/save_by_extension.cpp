@@ -1,7 +1,7 @@
 #include "generation/save_by_extension.h"
 
 #include "sheets/sheet_save.h"
-#include "steps/step_three.h"
+#include "steps/race/step_three.h"
 #include "store/character_file.h"
 #include "text/file_name.h"
 #include "text/search.h"

@@ -227,6 +227,7 @@ TEST(DataFolderTest, FoldersThatCanNotBeWrittenAreToldAndTheNextIsUsed) {
     return enters(start / "own", start / "home", start / "own",
                   own + home + "What you do is lost unless you save it elsewhere.");
   });
+  fs::permissions("own", fs::perms(0755));  // or nobody but root could remove it
 }
 
 TEST(ProgramTest, AFileThatMayNotGrowIsToldAndWhatAKilledProgramLeftIsRemoved) {
