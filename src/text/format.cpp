@@ -5,6 +5,9 @@
 #include <cmath>
 #include <limits>
 
+#include "text/columns.h"
+#include "text/utf8.h"
+
 namespace veld {
 
 namespace {
@@ -79,7 +82,8 @@ std::string Digits(const Directive& directive, const FormatValue& value, bool& n
     const std::int64_t number = AsInteger(value);
     negative = number < 0 && directive.conversion != 'x';
     const auto magnitude = negative ? 0 - static_cast<std::uint64_t>(number) : static_cast<std::uint64_t>(number);
-    result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude, directive.conversion == 'x' ? 16 : 10);
+    result =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), magnitude, directive.conversion == 'x' ? 16 : 10);
   }
   return {buffer.data(), result.ptr};
 }
@@ -89,7 +93,7 @@ std::string Converted(const Directive& directive, const FormatValue& value) {
     if (value.kind == FormatValue::Kind::Integer) return Format("%i", value.integer);
     if (value.kind == FormatValue::Kind::Decimal) return Format("%g", value.decimal);
     return std::string(directive.precision < 0 ? value.text
-                                               : value.text.substr(0, static_cast<std::size_t>(directive.precision)));
+                                               : CutToBytes(value.text, static_cast<std::size_t>(directive.precision)));
   }
   if (directive.conversion == 'c') return std::string(1, static_cast<char>(AsInteger(value)));
   bool negative = false;
@@ -117,7 +121,8 @@ std::string FormatValues(std::string_view pattern, std::initializer_list<FormatV
       out += '%';
     } else if (next != values.end()) {
       const std::string field = Converted(directive, *next++);
-      const std::size_t fill = field.size() < directive.width ? directive.width - field.size() : 0;
+      const std::size_t columns = directive.width == 0 ? 0 : static_cast<std::size_t>(ColumnsOf(field));
+      const std::size_t fill = columns < directive.width ? directive.width - columns : 0;
       if (!directive.leftAligned) out.append(fill, ' ');
       out += field;
       if (directive.leftAligned) out.append(fill, ' ');

@@ -6,9 +6,13 @@ namespace veld {
 
 namespace {
 
-unsigned char Byte(std::string_view text, std::size_t at) { return static_cast<unsigned char>(text[at]); }
+unsigned char Byte(std::string_view text, std::size_t at) {
+  return static_cast<unsigned char>(text[at]);
+}
 
-bool IsContinuation(unsigned char byte) { return (byte & 0xC0) == 0x80; }
+bool IsContinuation(unsigned char byte) {
+  return (byte & 0xC0) == 0x80;
+}
 
 /// Bytes of the well-formed UTF-8 character at `at`, or 0 if there is none.
 std::size_t CharacterLength(std::string_view text, std::size_t at) {
@@ -44,6 +48,15 @@ bool IsUtf8(std::string_view text) {
     at += length;
   }
   return true;
+}
+
+char32_t TakeCharacter(std::string_view text, std::size_t& at) {
+  const std::size_t length = CharacterLength(text, at);
+  const unsigned char lead = Byte(text, at++);
+  if (length < 2) return lead;
+  char32_t character = lead & (0xFFU >> (length + 1));
+  for (std::size_t i = 1; i < length; ++i) character = (character << 6) | (Byte(text, at++) & 0x3FU);
+  return character;
 }
 
 std::string DisplayText(std::string_view text) {

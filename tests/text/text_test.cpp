@@ -46,6 +46,8 @@ TEST(FormatTest, PrintsLikeTheGamesPatterns) {
   EXPECT_EQ(Format("%g|%g|%g|%g", 3.5F, 100.0, 1e10, -0.25), "3.5|100|1e+10|-0.25");
   EXPECT_EQ(Format("[%5i][%-5i][%05i][%+i]", 42, 42, -42, 7), "[   42][42   ][-0042][+7]");
   EXPECT_EQ(Format("[%-6s][%6s][%.2s]", "ab", std::string("cd"), std::string_view("efgh")), "[ab    ][    cd][ef]");
+  EXPECT_EQ(Format("[%-3s][%4s]", "\xC3\xA9", "\xC3\xBC\xE9"), "[\xC3\xA9  ][  \xC3\xBC\xE9]") << "UTF-8, Latin-1";
+  EXPECT_EQ(Format("[%-4s][%.2s]", "e\xCC\x81\xE5\x90\x8D", "x\xC3\xA9"), "[e\xCC\x81\xE5\x90\x8D ][x]");
   EXPECT_EQ(Format("%.2f %%", 2.345678), "2.35 %");
   EXPECT_EQ(Format("%i", std::numeric_limits<std::int64_t>::min()), "-9223372036854775808");
 }
