@@ -104,6 +104,26 @@ TEST(ShippedSpells, CantripsComeFirstThenTheLevels) {
   for (const auto& [category, size] : sizes) EXPECT_GE(size, 10) << category;
 }
 
+// A student who can't learn gestures is still left with spells of every school and level to choose from.
+TEST(ShippedSpells, AboutOneInSevenIsCastWithoutGestures) {
+  std::map<int, int> ofLevel;
+  std::map<std::string_view, int> ofSchool;
+  int all = 0;
+  for (const SpellRecord& spell : Spells()) {
+    if (Contains(spell.Component, "S")) continue;
+    ++all;
+    ++ofLevel[spell.Level];
+    if (spell.Level != 1) continue;
+    for (const SpecialistSchool& school : SpecialistSchools)
+      ofSchool[school.School] += IsSpellOf(spell, 1, school.School);
+  }
+  EXPECT_NEAR(all, static_cast<int>(kSpellRecords) / 7, 8);
+  EXPECT_GE(ofLevel[0], 25);
+  EXPECT_GE(ofLevel[1], 14);
+  for (int level = 2; level <= static_cast<int>(kSpellLevels); ++level) EXPECT_GE(ofLevel[level], 3) << level;
+  for (const SpecialistSchool& school : SpecialistSchools) EXPECT_GE(ofSchool[school.School], 1) << school.School;
+}
+
 TEST(ShippedSpells, EverySchoolHasSpellsOfEveryLevel) {
   const std::vector<SpellRecord> spells = Spells();
   for (const SpecialistSchool& school : SpecialistSchools) {
@@ -223,6 +243,7 @@ TEST(ShippedGoods, ArePricedInOneCoinAndFillEveryCategory) {
     EXPECT_EQ((good.GoldCost > 0) + (good.SilverCost > 0) + (good.CopperCost > 0), 1) << good.Name.View();
     EXPECT_EQ(good.CopperValue, good.GoldCost * 100 + good.SilverCost * 10 + good.CopperCost) << good.Name.View();
     EXPECT_TRUE(std::isfinite(good.Weight) && good.Weight >= 0) << good.Name.View();
+    EXPECT_TRUE(!IsCarried(good) || good.Weight <= 400) << good.Name.View() << " is more than anybody carries";
   }
   EXPECT_GE(named, 600);
   EXPECT_EQ(sizes.size(), EquipmentCategories.size());
