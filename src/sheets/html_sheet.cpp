@@ -9,19 +9,21 @@ namespace veld {
 
 namespace {
 
-// A page for A4 and Letter alike: no width is fixed, wide tables scroll on a phone, small blocks stay on one page.
+// A page for A4 and Letter alike: no width is fixed, words longer than their place are broken, wide tables scroll on a
+// phone, small blocks stay on one page.
 constexpr std::string_view kStyle = R"(
 :root { --ink: #16325c; --rule: #c9dcec; --label: #4a4a4a; }
 * { box-sizing: border-box; }
 body { margin: 0 auto; padding: 1rem; max-width: 52rem; background: #fff; color: var(--ink);
-  font: 0.95rem/1.5 "Liberation Sans", Arial, Helvetica, sans-serif; overflow-wrap: break-word; }
+  font: 0.95rem/1.5 "Liberation Sans", Arial, Helvetica, sans-serif; overflow-wrap: anywhere; }
 h1 { margin: 0; font-size: 1.7rem; line-height: 1.2; color: #111; }
 h2 { margin: 1.4rem 0 0.3rem; padding-bottom: 0.1rem; border-bottom: 2px solid var(--ink);
   font-size: 1.1rem; color: #111; }
 h3 { margin: 0.8rem 0 0.2rem; font-size: 0.95rem; color: #111; }
 h2, h3, caption { break-after: avoid; }
 p { margin: 0.2rem 0; }
-dl { margin: 0; display: grid; grid-template-columns: repeat(auto-fill, minmax(14rem, 1fr)); column-gap: 1.2rem; }
+dl { margin: 0; display: grid; column-gap: 1.2rem;
+  grid-template-columns: repeat(auto-fill, minmax(min(14rem, 100%), 1fr)); }
 dl.long { grid-template-columns: 1fr; }
 dl div { display: flex; gap: 0.5rem; border-bottom: 1px solid var(--rule); break-inside: avoid; }
 dt { color: var(--label); flex: none; max-width: 60%; }
@@ -36,7 +38,7 @@ table { width: 100%; border-collapse: collapse; }
 th, td { padding: 0.05rem 0.4rem; border-bottom: 1px solid var(--rule); text-align: center; white-space: nowrap; }
 thead th { color: var(--label); font-weight: 400; }
 tbody th { text-align: left; font-weight: 600; }
-td.text, th.text { text-align: left; white-space: normal; }
+td.text, th.text { text-align: left; white-space: normal; overflow-wrap: break-word; }
 tr > :first-child { padding-left: 0; }
 tr { break-inside: avoid; }
 thead { display: table-header-group; }
