@@ -1,5 +1,8 @@
 #include "sheets/html_sheet.h"
 
+#include <algorithm>
+#include <span>
+
 #include "sheets/sheet_content.h"
 #include "text/format.h"
 #include "text/search.h"
@@ -80,12 +83,6 @@ std::string Escaped(std::string_view text) {
   return escaped;
 }
 
-struct AbilityEffect {
-  std::string_view Label;
-  std::string Value;
-  bool IsMarkup = false;
-};
-
 /// The page in the making. All texts that are given to it are escaped, but those that say that they are markup.
 class Page {
  public:
@@ -97,35 +94,36 @@ class Page {
     html_ += Format("</%s>\n", tag.substr(0, tag.find(' ')));
   }
 
-  /// A section with its heading; a short one is kept on one page.
-  void Open(std::string_view heading, bool isShort = false) {
+  /// A section with its heading; a short one is kept on one page. It ends where the next begins.
+  void Open(std::string_view heading, bool isShort) {
+    Close();
     Raw(isShort ? "<section class=\"short\">\n" : "<section>\n");
     Element("h2", heading);
+    isOpen_ = true;
   }
-  void Close() { Raw("</section>\n"); }
-
-  void Fact(std::string_view label, std::string_view value) {
-    Raw("<div><dt>");
-    Text(label);
-    Raw("</dt><dd>");
-    Text(value);
-    Raw("</dd></div>\n");
-  }
-  void Number(std::string_view label, std::int64_t value) { Fact(label, Format("%i", value)); }
-  void OpenFacts(bool isLong = false) { Raw(isLong ? "<dl class=\"long\">\n" : "<dl>\n"); }
-  void CloseFacts() { Raw("</dl>\n"); }
-  void LongFacts(const std::vector<SheetFact>& facts) {
-    if (facts.empty()) return;
-    OpenFacts(true);
-    for (const SheetFact& fact : facts) Fact(fact.Label, fact.Value);
-    CloseFacts();
+  void Close() {
+    if (isOpen_) Raw("</section>\n");
+    isOpen_ = false;
   }
 
-  /// A table with its heads. The first column is one of texts; a column named so as well.
-  void OpenTable(std::initializer_list<std::string_view> heads, std::string_view textColumn = {}) {
+  void Facts(const SheetBlock& block, bool isLong = false) {
+    Raw(isLong ? "<dl class=\"long\">\n" : "<dl>\n");
+    for (const SheetFact& fact : block.Facts) {
+      if (fact.Form != SheetForm::Fact) continue;
+      Raw("<div><dt>");
+      Text(fact.Label);
+      Raw("</dt><dd>");
+      Text(Format(fact.Html, fact.Value));
+      Raw("</dd></div>\n");
+    }
+    Raw("</dl>\n");
+  }
+
+  /// The heads of a table. The first column is one of texts, as is that of the effects.
+  void OpenTable(const SheetBlock& block) {
     Raw("<div class=\"scroll\"><table>\n<thead><tr>");
-    for (const std::string_view& head : heads) {
-      const bool isText = &head == heads.begin() || (!head.empty() && head == textColumn);
+    for (const std::string_view& head : block.Columns) {
+      const bool isText = &head == block.Columns.data() || (!head.empty() && head == block.TextColumn);
       Raw(isText ? "<th scope=\"col\" class=\"text\">" : "<th scope=\"col\">");
       Text(head);
       Raw("</th>");
@@ -142,360 +140,115 @@ class Page {
     Text(text);
     Raw("</td>");
   }
-  void Cell(int number) { Cell(Format("%i", number)); }
-  void CloseRow() { Raw("</tr>\n"); }
   void CloseTable() { Raw("</tbody>\n</table></div>\n"); }
 
-  /// A line of a list, with a value at its end if it has one.
-  void Item(std::string_view text, std::string_view value = {}) {
-    Raw("<li><span>");
-    Text(text);
-    Raw("</span>");
-    if (!value.empty()) Raw("<b>" + Escaped(value) + "</b>");
-    Raw("</li>\n");
+  /// The lines of a list, each with its value at its end if it has one.
+  void List(const SheetBlock& block) {
+    Raw(block.Shape == SheetShape::WideList ? "<ul class=\"wide\">\n" : "<ul>\n");
+    for (const SheetFact& fact : block.Facts) {
+      if (fact.Form != SheetForm::Fact) continue;
+      Raw("<li>");
+      if (block.Shape == SheetShape::CheckList) Raw(kBoxes);
+      Raw("<span>");
+      Text(fact.Label);
+      Raw("</span>");
+      if (!fact.Value.empty()) Raw("<b>" + Escaped(Format(fact.Html, fact.Value)) + "</b>");
+      Raw("</li>\n");
+    }
+    Raw("</ul>\n");
   }
 
   std::string Take() { return std::move(html_); }
 
  private:
+  static constexpr std::string_view kBoxes =
+      "<span class=\"boxes\" aria-hidden=\"true\">&#9675;&#9675;&#9675;&#9675;&#9675;</span>";
+
   std::string html_;
+  bool isOpen_ = false;
 };
 
-void AddHead(Page& page, const CharacterSheet& sheet) {
+void AddHead(Page& page, const SheetContent& content) {
   page.Raw(
       "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
       "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n");
-  page.Element("title", OneLine(sheet.CharacterName));
+  page.Element("title", content.Name);
   page.Raw("<style>");
   page.Raw(kStyle);
   page.Raw("</style>\n</head>\n<body>\n<header>\n");
-  page.Element("h1", OneLine(sheet.CharacterName));
-  page.Element("p", Format("%s %s %s", OneLine(sheet.RaceName), OneLine(sheet.ClassName), OneLine(sheet.LevelText)));
+  page.Element("h1", content.Name);
+  page.Element("p", content.Subtitle);
   page.Raw("</header>\n<main>\n");
 }
 
-/// Facts without a value have room for the player's own hand.
-void AddWhoItIs(Page& page, const CharacterSheet& sheet) {
-  page.Open("Character Information", true);
-  page.OpenFacts();
-  page.Fact("Name", OneLine(sheet.CharacterName));
-  page.Fact("Player", OneLine(sheet.PlayerName));
-  page.Fact("Race", OneLine(sheet.RaceName));
-  page.Fact("Class", Format("%s %s", OneLine(sheet.ClassName), OneLine(sheet.LevelText)));
-  page.Fact("Homeland", "");
-  page.Fact("Alignment", OneLine(sheet.Alignment));
-  page.Fact("Liege/Patron", "");
-  page.Fact("Patron Gawd", "");
-  page.Fact("Social Class", OneLine(sheet.SocialClassName));
-  page.Fact("Family/Clan", "");
-  page.Fact("Height", Format("%i inches", sheet.HeightInches));
-  page.Fact("Weight", Format("%i lbs", sheet.WeightLbs));
-  page.Number("Age", sheet.Age);
-  page.Fact("Hair", OneLine(sheet.HairColor));
-  page.Fact("Eyes", OneLine(sheet.EyeColor));
-  page.Fact("Sex", OneLine(sheet.Gender));
-  page.Fact("Birth Date", "");
-  page.Fact("Handedness", OneLine(sheet.Handedness));
-  page.Fact("Appearance", "");
-  page.CloseFacts();
-  page.Close();
-}
-
-void AddAbility(Page& page, std::string_view name, AbilityScore score, const std::vector<AbilityEffect>& effects) {
-  page.OpenRow(name);
-  page.Cell(Format("%i/%i", score.Whole, score.Percentile));
+/// The effects of a row in one cell.
+void AddEffects(Page& page, std::span<const SheetFact> facts) {
   page.Raw("<td class=\"text\">");
   bool isFirst = true;
-  for (const AbilityEffect& effect : effects) {
-    if (TrimRight(effect.Value).empty()) continue;
+  for (const SheetFact& fact : facts) {
+    const bool isMarkup = fact.Form == SheetForm::MarkupEffect;
+    if ((!isMarkup && fact.Form != SheetForm::Effect) || TrimRight(fact.Value).empty()) continue;
     if (!isFirst) page.Raw(", ");
     isFirst = false;
-    page.Text(effect.Label);
+    page.Text(fact.Label);
     page.Raw(" <b>");
-    page.Raw(effect.IsMarkup ? effect.Value : Escaped(effect.Value));
+    page.Raw(isMarkup ? fact.Value : Escaped(fact.Value));
     page.Raw("</b>");
   }
   page.Raw("</td>");
-  page.CloseRow();
 }
 
-void AddAbilities(Page& page, const CharacterSheet& s) {
-  const auto text = [](std::string_view value) { return std::string(value); };
-  const auto number = [](int value) { return Format("%i", value); };
-  page.Open("Ability Scores", true);
-  page.OpenTable({"Ability", "Score", "Effects"}, "Effects");
-  AddAbility(page, "Strength", s.Strength,
-             {{"to hit", text(s.StrengthHitAdj)},
-              {"damage", text(s.StrengthDamageAdj)},
-              {"weight allowance", number(s.WeightAllowanceLight)},
-              {"open doors", text(s.OpenDoors)},
-              {"bend bars", number(s.BendBars)}});
-  AddAbility(page, "Dexterity", s.Dexterity,
-             {{"defense", text(s.DefenseAdj)}, {"reaction", text(s.ReactionAdj)}, {"missile", text(s.MissileAdj)}});
-  AddAbility(page, "Constitution", s.Constitution,
-             {{"hit points", text(s.ConstitutionHPAdjText)},
-              {"system shock", number(s.SystemShock)},
-              {"resurrection survival", number(s.ResurrectionSurvival)},
-              {"poison save", text(s.PoisonSave)},
-              {"immune to disease/alcohol", text(s.ImmuneToDisease)},
-              {"regenerate/heal", text(s.RegenHeal)}});
-  AddAbility(page, "Intelligence", s.Intelligence,
-             {{"languages", number(s.LanguageSlots)},
-              {"spell level", text(s.MaxSpellLevelText)},
-              {"learn ability", number(s.LearnAbility)},
-              {"spells per level", text(s.MaxSpellsText)},
-              {"illusion immunity", text(s.IllusionImmunity), true},
-              {"spell mishap", number(s.SpellMishap)}});
-  AddAbility(page, "Wisdom", s.Wisdom,
-             {{"magical defense", text(s.MagicalDefenseAdj)},
-              {"bonus spells", text(s.BonusSpells)},
-              {"spell failure", number(s.SpellFailure)},
-              {"spell immunity", text(s.SpellImmunity)},
-              {"improve skill", number(s.ImproveSkillChance)}});
-  AddAbility(page, "Charisma", s.Charisma,
-             {{"henchmen", number(s.MaxHenchmen)},
-              {"loyalty base", text(s.LoyaltyBase)},
-              {"reaction", text(s.CharismaReactionAdj)},
-              {"Comeliness", text(s.ComelinessMod)},
-              {"Honor", text(s.HonorMod)}});
-  AddAbility(page, "Comeliness", s.Comeliness, {});
-  page.CloseTable();
-  page.OpenFacts();
-  page.Fact("Honor", Format("%i %s", s.Honor, s.HonorCategory));
-  page.Fact("Fame", "");
-  page.Number("Hit Points", s.HitPoints);
-  page.CloseFacts();
-  page.Close();
-}
-
-void AddClasses(Page& page, const SheetContent& content) {
-  if (content.Classes.empty()) return;
-  page.Open("Classes", true);
-  page.OpenTable({"Class", "Level", "Experience", "Needed for next level"});
-  for (const SheetClass& held : content.Classes) {
-    page.OpenRow(held.Name);
-    page.Cell(held.Level);
-    page.Cell(Format("%.0f", held.Experience));
-    page.Cell(held.NextLevel);
-    page.CloseRow();
-  }
-  page.CloseTable();
-  page.Close();
-}
-
-void AddSaves(Page& page, const CharacterSheet& s) {
-  page.Open("Saving Throws", true);
-  page.OpenFacts();
-  page.Number("Paralyzation", s.SaveParalyzation[kBestSave]);
-  page.Number("Poison", s.SavePoison[kBestSave]);
-  page.Number("Death Magic", s.SaveDeathMagic[kBestSave]);
-  page.Number("Petrification", s.SavePetrification[kBestSave]);
-  page.Number("Polymorph", s.SavePolymorph[kBestSave]);
-  page.Number("Rod", s.SaveRod[kBestSave]);
-  page.Number("Staff", s.SaveRod[kBestSave]);  // one number serves rods and staves
-  page.Number("Wand", s.SaveWand[kBestSave]);
-  page.Number("QuellFrenzy", s.SaveQuellFrenzy[kBestSave]);
-  page.Number("QuellLust", s.SaveQuellLust[kBestSave]);
-  page.Number("Breath Weapon", s.SaveBreathWeapon[kBestSave]);
-  page.Number("Apology", s.SaveApology[kBestSave]);
-  page.Number("Spells", s.SaveSpells[kBestSave]);
-  page.CloseFacts();
-  page.Close();
-}
-
-void AddWeapons(Page& page, std::string_view heading, std::string_view speedHead,
-                const std::vector<SheetWeapon>& weapons) {
-  page.Open(heading);
-  page.OpenTable(
-      {"Weapon", "Hit", "Damage", speedHead, "Type", "T dam", "S dam", "M dam", "L dam", "H dam", "G dam", "BSL"});
-  for (const SheetWeapon& held : weapons) {
-    page.OpenRow(TrimRight(held.Weapon->Name));
-    page.Cell(HitAdjustment(held));
-    page.Cell(DamageAdjustment(held));
-    page.Cell(held.Weapon->HitModifier);
-    page.Cell(held.Weapon->DamageType);
-    for (const std::string_view damage : held.Weapon->Damage) page.Cell(damage);
-    page.Cell("");
-    page.CloseRow();
-  }
-  page.CloseTable();
-  page.Close();
-}
-
-void AddMovement(Page& page, const CharacterSheet& sheet, const SheetContent& content) {
-  page.Open("Movement and Encumbrance", true);
-  page.OpenTable({"", "Unencumbered", "Light", "Moderate", "Heavy", "Severe"});
-  page.OpenRow("Encumbrance (lbs)");
-  for (const int limit : content.EncumbranceLimits) page.Cell(limit);
-  page.CloseRow();
-  page.OpenRow("Movement");
-  for (const int rate : {sheet.BaseMovement, sheet.MovementLight, sheet.MovementModerate, sheet.MovementHeavy, 1}) {
-    page.Cell(rate);
-  }
-  page.CloseRow();
-  page.CloseTable();
-  page.OpenFacts();
-  page.Fact("Carried", Format("%.2f lbs", sheet.CarriedWeightLbs));
-  page.CloseFacts();
-  page.Close();
-}
-
-void AddTattoos(Page& page, const SheetContent& content) {
-  page.Open("Pixie Fairy Tattoos", true);
-  page.Raw("<ul class=\"wide\">\n");
-  for (const std::string_view tattoo : content.Tattoos) page.Item(tattoo);
-  page.Raw("</ul>\n");
-  page.Close();
-}
-
-void AddBackground(Page& page, std::string_view heading, const std::vector<SheetFact>& background) {
-  if (background.empty()) return;
-  page.Element("h3", heading);
-  page.LongFacts(background);
-}
-
-void AddSpells(Page& page, const Game& game, const SheetContent& content) {
-  page.Element("h3", "Spell Progression");
-  page.OpenTable({"", "Lvl1", "Lvl2", "Lvl3", "Lvl4", "Lvl5", "Lvl6", "Lvl7", "Lvl8", "Lvl9"});
-  page.OpenRow("Spells");
-  for (const int slots : game.run.SpellsPerLevel) page.Cell(slots);
-  page.CloseRow();
-  page.CloseTable();
-  page.Element("h3", "Spell Planner");
-  if (content.Spells.empty()) return;
-  page.Raw("<ul>\n");
-  for (const std::string& spell : content.Spells) {
-    page.Raw("<li><span class=\"boxes\" aria-hidden=\"true\">&#9675;&#9675;&#9675;&#9675;&#9675;</span><span>");
-    page.Text(spell);
-    page.Raw("</span></li>\n");
-  }
-  page.Raw("</ul>\n");
-}
-
-void AddCallings(Page& page, const Game& game, const SheetContent& content) {
-  if (content.IsMage) {
-    page.Open("Magic-User Information");
-    AddBackground(page, "Magic-User Background", content.MageBackground);
-    AddSpells(page, game, content);
-    page.Close();
-  }
-  if (content.IsCleric) {
-    page.Open("Cleric Information");
-    AddBackground(page, "Cleric Background", content.ClericBackground);
-    page.Close();
-  }
-  if (content.IsFighter) {
-    page.Open("Fighter Information");
-    AddBackground(page, "Fighter Background", content.FighterBackground);
-    page.Close();
-  }
-}
-
-void AddClassAbilities(Page& page, const SheetContent& content) {
-  for (const SheetAbilityTable& table : content.ClassAbilities) {
-    page.Open(table.Title, true);
-    page.OpenTable({"Ability", "Base", "No Armor", "Elven Chain", "Studded Leather/Ring Mail/Padded"});
-    for (const SheetPercents& row : table.Rows) {
-      page.OpenRow(row.Name);
-      for (const int value : row.Values) page.Cell(value);
-      page.CloseRow();
+/// A table, and under it the block's facts that stand in no row.
+void AddTable(Page& page, const SheetBlock& block) {
+  const auto isHead = [](const SheetFact& fact) { return fact.Form == SheetForm::RowHead; };
+  page.OpenTable(block);
+  for (auto head = std::ranges::find_if(block.Facts, isHead); head != block.Facts.end();) {
+    const auto end = std::find_if(head + 1, block.Facts.end(), isHead);
+    page.OpenRow(head->Value);
+    for (auto fact = head; fact != end; ++fact) {
+      if (fact->Form == SheetForm::Cell) page.Cell(Format(fact->Html, fact->Value));
     }
-    page.CloseTable();
-    page.Close();
+    if (!block.TextColumn.empty()) AddEffects(page, {head, end});
+    page.Raw("</tr>\n");
+    head = end;
   }
+  page.CloseTable();
+  if (std::ranges::find(block.Facts, SheetForm::Fact, &SheetFact::Form) != block.Facts.end()) page.Facts(block);
 }
 
-void AddQuirks(Page& page, const SheetContent& content) {
-  if (content.Quirks.empty()) return;
-  page.Open("Quirks and Flaws");
-  page.Raw("<ul>\n");
-  for (const SheetItem& quirk : content.Quirks) {
-    page.Item(quirk.Name, quirk.Count == 1 ? std::string{} : Format("x%i", quirk.Count));
+void AddBlock(Page& page, const SheetBlock& block) {
+  if (block.Level == SheetLevel::Part) page.Element("h3", block.Title);
+  if (block.Level >= SheetLevel::Section) page.Open(block.Title, block.Level == SheetLevel::ShortSection);
+  switch (block.Shape) {
+    case SheetShape::Heading:
+      break;
+    case SheetShape::Facts:
+    case SheetShape::LongFacts:
+      page.Facts(block, block.Shape == SheetShape::LongFacts);
+      break;
+    case SheetShape::Table:
+      AddTable(page, block);
+      break;
+    case SheetShape::List:
+    case SheetShape::WideList:
+    case SheetShape::CheckList:
+      page.List(block);
+      break;
+    case SheetShape::Note:
+      for (const SheetFact& fact : block.Facts) page.Element("p class=\"notes\"", fact.Value);
+      break;
   }
-  page.Raw("</ul>\n");
-  page.Close();
-}
-
-void AddAccomplishments(Page& page, const SheetContent& content) {
-  page.Open("Proficiencies, Talents & Skills");
-  page.Element("h3", "Weapon Proficiencies");
-  page.Raw("<ul>\n");
-  for (const SheetWeapon& held : content.Proficiencies) page.Item(TrimRight(held.Weapon->Name), MarkName(held.Mark));
-  for (const SheetFact& pick : content.Picks) page.Item(Format("%s: %s", pick.Label, pick.Value));
-  page.Raw("</ul>\n");
-  page.Element("h3", "Talents");
-  page.Raw("<ul>\n");
-  for (const SheetTalent& talent : content.Talents) page.Item(talent.Name, talent.Rating);
-  page.Raw("</ul>\n");
-  page.Element("h3", "Skills");
-  page.Raw("<ul>\n");
-  for (const SheetItem& skill : content.Skills) page.Item(skill.Name, Format("%i%%", skill.Count));
-  page.Raw("</ul>\n");
-  page.Close();
-}
-
-void AddInventory(Page& page, const SheetContent& content) {
-  page.Open("Inventory");
-  page.Element("h3", "Coins & Money");
-  page.OpenFacts();
-  for (const SheetCoin& coin : content.Coins) {
-    if (coin.Count > 0) page.Number(coin.Name, coin.Count);
-  }
-  page.CloseFacts();
-  page.LongFacts(content.Inheritance);
-  for (const SheetGoods& goods : content.Goods) {
-    page.Element("h3", goods.Heading);
-    page.Raw("<ul>\n");
-    for (const SheetGood& good : goods.Goods) {
-      const std::string name = good.Quantity == 1 ? good.Name : Format("%s x%i", good.Name, good.Quantity);
-      page.Item(name, Format("%.2f lbs", good.Weight));
-    }
-    page.Raw("</ul>\n");
-  }
-  page.Close();
-}
-
-void AddFamily(Page& page, const CharacterSheet& sheet, const SheetContent& content) {
-  page.Open("Family Information");
-  page.OpenFacts(true);
-  page.Fact("Father", Format("%s, %s", OneLine(sheet.FatherStatus), OneLine(sheet.FatherQuality)));
-  page.Fact("Mother", Format("%s, %s", OneLine(sheet.MotherStatus), OneLine(sheet.MotherQuality)));
-  page.Fact("Step Parent", OneLine(sheet.StepParent));
-  page.Fact("Birth Order", OneLine(sheet.BirthOrder));
-  for (std::size_t i = 0; i < content.Siblings.size(); ++i) page.Fact(Format("Sibling %i", i + 1), content.Siblings[i]);
-  page.CloseFacts();
-  page.Close();
-}
-
-void AddNotes(Page& page, const CharacterSheet& sheet) {
-  page.Open("Notes");
-  page.Element("p class=\"notes\"", sheet.Notes);
-  page.Close();
 }
 
 }  // namespace
 
 std::string HtmlSheet(Game& game) {
   BringUpToDate(game);
-  const CharacterSheet& sheet = game.sheet;
   const SheetContent content = GatherSheet(game);
   Page page;
-  AddHead(page, sheet);
-  AddWhoItIs(page, sheet);
-  AddAbilities(page, sheet);
-  AddClasses(page, content);
-  AddSaves(page, sheet);
-  AddWeapons(page, "Melee Weapons", "Spd", content.Melee);
-  AddWeapons(page, "Missile Weapons", "ROF", content.Missile);
-  AddMovement(page, sheet, content);
-  if (sheet.RaceName == "Pixie Fairy") AddTattoos(page, content);
-  AddCallings(page, game, content);
-  AddClassAbilities(page, content);
-  AddQuirks(page, content);
-  AddAccomplishments(page, content);
-  AddInventory(page, content);
-  AddFamily(page, sheet, content);
-  AddNotes(page, sheet);
+  AddHead(page, content);
+  for (const SheetBlock& block : content.Blocks) AddBlock(page, block);
+  page.Close();
   page.Raw("</main>\n</body>\n</html>\n");
   return page.Take();
 }

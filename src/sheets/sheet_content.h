@@ -1,105 +1,111 @@
 #pragma once
 
-#include <array>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "rules/proficiency_table.h"
 #include "store/game.h"
 
 namespace veld {
 
-// What all printed sheets show, gathered once from the character and the catalogues. The names of catalogues come
-// without the blanks at their ends; texts that players typed are one line each, tabs and line ends read as blanks.
+// What all printed sheets show, gathered once from the character and the catalogues as one ordered list of facts. A
+// fact says in its own line where and how each format prints it, and the writers only walk the list: a new fact is a
+// new line here and nothing elsewhere. The list has the order of the text and the HTML sheet; on the tab-separated
+// sheet a fact belongs to a row. The names of catalogues come without the blanks at their ends; texts that players
+// typed are one line each, tabs and line ends read as blanks.
 
 /// The first of the proficiency marks that count as Mastery on a sheet; see ProficiencyMark for the others.
 inline constexpr int kMasteryMark = 3;
 
+/// How a format prints a fact: a pattern for the value, or for the label and the value. Empty: not at all.
+struct SheetPart {
+  constexpr SheetPart() = default;
+  constexpr SheetPart(const char* pattern, bool showsLabel = false) : Pattern(pattern), ShowsLabel(showsLabel) {}
+  std::string_view Pattern;
+  bool ShowsLabel = false;
+};
+
+/// The rows of the tab-separated sheet in their order.
+enum class TabRow {
+  None,
+  Facts,
+  Abilities,
+  Saves,
+  HitPoints,
+  WeaponNames,
+  WeaponSpeeds,
+  WeaponRanges,
+  WeaponTypes,
+  WeaponBsl,
+  WeaponDamages,
+  Accomplishments,
+  AccomplishmentValues,
+  ClassNames,
+  ClassExperience,
+  ClassNextLevels,
+  Encumbrance,
+  Movement,
+  Quirks,
+  Coins,
+  Inventory,
+  ClassAbilities,
+  Count,
+};
+
+/// A fact's place on the tab-separated sheet: facts of a row are sorted by Order, those of one Order as they are
+/// listed.
+struct SheetTab {
+  TabRow Row = TabRow::None;
+  SheetPart Part;
+  int Order = 0;
+};
+
+/// What a fact is on the HTML sheet.
+enum class SheetForm {
+  Fact,          ///< label and value: of a block of facts, of a list, or under a table
+  RowHead,       ///< the value begins a row of a table
+  Cell,          ///< the value alone
+  Effect,        ///< label and value, gathered in the last cell of a row; without a value not shown
+  MarkupEffect,  ///< an effect whose value is markup
+  Hidden,        ///< not on the HTML sheet
+};
+
 struct SheetFact {
-  std::string_view Label;
+  std::string Label;
   std::string Value;
+  SheetPart Text;  ///< its part of the text sheet
+  SheetTab Tab;
+  SheetForm Form = SheetForm::Fact;
+  std::string_view Html = "%s";  ///< the value's pattern on the HTML sheet
 };
 
-struct SheetClass {
-  std::string_view Name;
-  int Level;
-  double Experience;
-  int NextLevel;  ///< experience that the next level needs
+enum class SheetLevel {
+  None,  ///< goes on under the heading before
+  Part,
+  Section,
+  ShortSection,  ///< kept on one page
 };
 
-/// A proficiency held, with its mark.
-struct SheetWeapon {
-  const ProficiencyRecord* Weapon;
-  int Mark;
-};
+/// How the HTML sheet shows a block.
+enum class SheetShape { Heading, Facts, LongFacts, Table, List, WideList, CheckList, Note };
 
-/// A thing held, and how often or how well.
-struct SheetItem {
-  std::string Name;
-  int Count;
-};
-
-/// A talent held; the rating says how much of it ("x2", "d6") where there is a measure of it, else it is empty.
-struct SheetTalent {
-  std::string Name;
-  std::string Rating;
-};
-
-/// A percentile ability: without any thought of armor, without armor, in elven chain, and in studded leather and such.
-struct SheetPercents {
-  std::string_view Name;
-  std::array<int, 4> Values;
-};
-
-struct SheetAbilityTable {
-  std::string_view Title;  ///< "Thief Abilities"
-  std::vector<SheetPercents> Rows;
-};
-
-struct SheetGood {
-  std::string Name;
-  int Quantity;
-  double Weight;  ///< pounds, of one
-};
-
-/// The goods of a category: the single ones before those owned more than once, those of the list before the user's own.
-struct SheetGoods {
-  int Category;
-  std::string_view Heading;
-  bool HasListedGood;  ///< not only goods of the user's own
-  std::vector<SheetGood> Goods;
-};
-
-struct SheetCoin {
-  std::string_view Name;
-  std::string_view Sign;
-  int Count;
+/// Facts that stand together.
+struct SheetBlock {
+  std::string_view Title = {};
+  SheetLevel Level = SheetLevel::None;
+  SheetShape Shape = SheetShape::Heading;
+  std::string TextLead = {};                   ///< what the text sheet has before the facts: headings, column heads
+  std::string_view TextTail = {};              ///< and after them
+  std::vector<std::string_view> Columns = {};  ///< the heads of a table; a first of them is for the rows' heads
+  std::string_view TextColumn = {};            ///< the column of effects if there is one
+  std::vector<SheetFact> Facts = {};
 };
 
 struct SheetContent {
-  std::vector<SheetClass> Classes;
-  std::array<int, 5> EncumbranceLimits{};  ///< pounds from which a burden counts as none, light ... severe
-  std::vector<SheetWeapon> Melee;          ///< in the order of the marks, as all proficiencies below
-  std::vector<SheetWeapon> Missile;
-  std::vector<SheetWeapon> Proficiencies;  ///< of all kinds
-  std::vector<SheetFact> Picks;            ///< abilities taken for a weapon: "Quick Draw", "Dagger"
-  std::vector<std::string_view> Tattoos;   ///< a line each
-  bool IsMage = false;
-  bool IsCleric = false;
-  bool IsFighter = false;
-  std::vector<SheetFact> MageBackground;  ///< empty without one, as the other two
-  std::vector<SheetFact> ClericBackground;
-  std::vector<SheetFact> FighterBackground;
-  std::vector<std::string> Spells;
-  std::vector<SheetAbilityTable> ClassAbilities;
-  std::vector<SheetItem> Quirks;
-  std::vector<SheetTalent> Talents;
-  std::vector<SheetItem> Skills;  ///< mastery in percent
-  std::array<SheetCoin, 6> Coins{};
-  std::vector<SheetFact> Inheritance;  ///< what there is of it, the debt included
-  std::vector<SheetGoods> Goods;       ///< in the order of the categories; none is empty
-  std::vector<std::string> Siblings;
+  std::string Name;      ///< of the character
+  std::string Subtitle;  ///< race, class and level
+  std::vector<SheetBlock> Blocks;
+  int Picks = 0;  ///< abilities taken for a weapon: "Quick Draw", "Dagger"
 };
 
 /// Brings all that follows from abilities and classes up to date: once and for all, so that a second sheet of the
@@ -109,14 +115,7 @@ void BringUpToDate(Game& game);
 /// What there is to print of a character that is up to date.
 SheetContent GatherSheet(const Game& game);
 
-/// A typed text as one line: tabs and line ends are blanks.
-std::string OneLine(std::string_view text);
-
-/// The adjustments that a mark brings with a weapon, empty for none: "-1" for a limited proficiency.
-std::string_view HitAdjustment(const SheetWeapon& held);
-std::string_view DamageAdjustment(const SheetWeapon& held);
-
-/// "Basic"; empty for a mark that is none.
-std::string_view MarkName(int mark);
+/// A fact as one of its patterns prints it.
+std::string PrintedPart(const SheetPart& part, const SheetFact& fact);
 
 }  // namespace veld

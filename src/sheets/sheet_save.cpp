@@ -19,7 +19,7 @@ bool SaveTabSheet(Game& game, const std::string& path, SaveWay way) {
     return false;
   }
   // The sheet's two rows have no word for how well an ability goes with a weapon: the player is told of each.
-  for (std::size_t picks = GatherSheet(game).Picks.size(); picks > 0; --picks) {
+  for (int picks = GatherSheet(game).Picks; picks > 0; --picks) {
     game.platform.ShowMessage("Weapon With Text");
   }
   game.platform.ShowMessage("Character Saved in tab-deliminated  format");
