@@ -7,6 +7,7 @@
 #include "rules/class_table.h"
 #include "rules/proficiency_table.h"
 #include "rules/quirk_table.h"
+#include "rules/race_table.h"
 #include "rules/skill_table.h"
 #include "rules/talent_table.h"
 #include "steps/abilities/ability_effects_apply.h"
@@ -382,7 +383,7 @@ constexpr TattooLine kTattooLines[] = {
 // clang-format on
 
 void AddTattoos(const Sheet& sheet, SheetContent& content) {
-  if (sheet.RaceName != kTattooRace) return;
+  if (!HasTrait(sheet.RaceName, RaceTrait::Tattooed)) return;
   SheetBlock& block = AddBlock(content, {"Pixie Fairy Tattoos", SheetLevel::ShortSection, SheetShape::WideList,
                                          "\n" + Headed(25, "Pixie Fairy Tattoos", "\n")});
   for (const TattooLine& tattoo : kTattooLines) {
