@@ -32,6 +32,9 @@ int HonorPerDie(const Game& game) {
   return perDie;
 }
 
+/// The player types what his dice show; a die of one side shows the same to everybody and is not asked for.
+bool IsTyped(const Game& game, int sides) { return DiceAreTyped(game) && sides > 1; }
+
 /// Asks for a roll whose prompt stands in DiceLabel; a number typed is logged and final.
 std::optional<int> TypedRoll(Game& game, std::int64_t lowest, std::int64_t highest) {
   const std::int64_t typed = AskTypedDice(game, lowest, highest);
@@ -108,7 +111,7 @@ void LogDiceTotal(Game& game, int total) { LogDiceLine(game, Format("With a Tota
 
 int RollDice(Game& game, int sides, int count) {
   if (!IsRollable(sides, count)) return 0;
-  if (DiceAreTyped(game)) {
+  if (IsTyped(game, sides)) {
     game.dice.DiceLabel = Format("VELD needs a roll of: %id%i.", count, sides);
     if (const auto typed = TypedRoll(game, count, std::int64_t{sides} * count)) return *typed;
   }
@@ -121,7 +124,7 @@ int RollDice(Game& game, int sides, int count) {
 
 int RollHonorDice(Game& game, int sides, int count) {
   if (!IsRollable(sides, count)) return 0;
-  if (DiceAreTyped(game) && !HasLabel(game)) {
+  if (IsTyped(game, sides) && !HasLabel(game)) {
     game.dice.DiceLabel = Format("VELD needs a roll of: %id%i. Honor category adjustments apply.", count, sides);
     if (const auto typed = TypedRoll(game, count, kNoUpperBound)) return *typed;
   }
@@ -135,20 +138,21 @@ int RollHonorDice(Game& game, int sides, int count) {
 
 int RollPenetratingDice(Game& game, int sides, int count) {
   if (!IsRollable(sides, count)) return 0;
-  if (DiceAreTyped(game) && !HasLabel(game)) {
+  const int perDie = ScholarPerDie(game) + HonorPerDie(game);
+  game.dice.RollContextText.clear();
+  if (IsTyped(game, sides) && !HasLabel(game)) {
     game.dice.DiceLabel = Format(
         "VELD needs a roll of: %id%i. Penetration is active. Honor category adjustments apply.", count, sides);
     if (const auto typed = TypedRoll(game, count, kNoUpperBound)) return *typed;
   }
-  const int result = ThrowPenetrating(game, sides, count, ScholarPerDie(game) + HonorPerDie(game));
-  game.dice.RollContextText.clear();
+  const int result = ThrowPenetrating(game, sides, count, perDie);
   LogRoll(game, "VELD has rolled (Penetration) %id%i: %i ", sides, count, result);
   return result;
 }
 
 int RollPenetratingDicePlus(Game& game, int sides, int count, int plus) {
   if (!IsRollable(sides, count)) return 0;
-  if (DiceAreTyped(game) && !HasLabel(game)) {
+  if (IsTyped(game, sides) && !HasLabel(game)) {
     game.dice.DiceLabel =
         Format("VELD needs a roll of: %id%i+%i. Penetration is active. Honor category adjustments apply.", count, sides,
                plus);
@@ -168,7 +172,7 @@ int RollHitPointDice(Game& game, int sides, int count) {
       "in.",
       count, sides);
   const int perDie = HonorPerDie(game);
-  if (DiceAreTyped(game)) {
+  if (IsTyped(game, sides)) {
     const auto typed = TypedRoll(game, count, std::int64_t{sides} * count);
     if (typed) return SaturateToInt(*typed + std::int64_t{perDie} * count);
   }

@@ -8,7 +8,7 @@ namespace veld {
 
 // The roll primitives: sides first, count second. A count below 1 gives 0 at once, with nothing logged and no random
 // number drawn; so does a die of no sides. Each roll leaves DiceLabel empty and one line in dice.log.
-// While "Roll Your Own Dice" is on the player is asked for the result.
+// While "Roll Your Own Dice" is on the player is asked for the result of dice of two sides and more.
 
 /// The sum of the dice.
 int RollDice(Game& game, int sides, int count);

@@ -1,5 +1,6 @@
 #include "dice/keep_roll.h"
 
+#include "dice/building_points.h"
 #include "dice/dice.h"
 #include "rules/quirk_table.h"
 
@@ -7,18 +8,9 @@ namespace veld {
 
 namespace {
 
-constexpr std::string_view kRerollCaption = "Reroll costs 1 BP";
 constexpr int kMostTableRolls = 10'000;
 
 using Outcome = enum TableResult::Outcome;
-
-/// Asks whether a result is kept; a player without BP keeps what the dice gave. A refusal takes 1 BP.
-bool IsKept(Game& game, const std::string& question) {
-  if (!(game.run.BuildingPoints > 0)) return true;
-  if (game.platform.AskYesNo(kRerollCaption, question) != Answer::No) return true;
-  game.run.BuildingPoints -= 1.0F;
-  return false;
-}
 
 bool CanHold(const Game& game, int row) {
   const int held = game.sheet.QuirkCounts[static_cast<std::size_t>(row)];
@@ -50,10 +42,9 @@ TableResult RollOnce(Game& game, std::string_view table, const RowFilter& isUsab
   if (!CanHold(game, row)) return {Outcome::RollAgain, 0};
   const std::string_view name = ShownQuirkName(row);
   const int bp = game.run.QuirkBPCosts[static_cast<std::size_t>(row)];
-  if (!(game.run.BuildingPoints > 0)) return {Outcome::Row, row};
   const std::string question = bp > 0 ? Format("Keep your result of (%i) %s (%i BP)?", roll, name, bp)
                                       : Format("Keep your result of (%i) %s?", roll, name);
-  if (!IsKept(game, question)) return {Outcome::RollAgain, 0};
+  if (!AskKeep(game, question)) return {Outcome::RollAgain, 0};
   return {Outcome::Row, row};
 }
 
@@ -67,7 +58,7 @@ int QuirkLimit(const Game& game, int row) {
 int AskKeepRoll(Game& game, Form& window, int sides, int count) {
   while (true) {
     const int result = RollDice(game, sides, count);
-    if (IsKept(game, Format("%s - Keep your result of - %i", game.dice.RollContextText, result))) return result;
+    if (AskKeep(game, Format("%s - Keep your result of - %i", game.dice.RollContextText, result))) return result;
     window.SetText(kBuildingPointsControl, Format("%g", game.run.BuildingPoints));
   }
 }

@@ -9,7 +9,7 @@ namespace veld {
 /// The control of a window that shows the Building Points left.
 inline constexpr int kBuildingPointsControl = 50;
 
-/// A roll that the player keeps: while BP are above 0 each result can be refused for 1 BP. The BP left are written to
+/// A roll that the player keeps: while the BP reach for it each result can be refused for 1 BP. The BP left are written to
 /// the window's control 50.
 int AskKeepRoll(Game& game, Form& window, int sides, int count);
 
@@ -29,7 +29,7 @@ struct TableResult {
   bool IsRow() const { return Outcome == Outcome::Row; }
 };
 
-/// One roll on a table of the quirk catalogue, with the offer to refuse it for 1 BP while BP are above 0.
+/// One roll on a table of the quirk catalogue, with the offer to refuse it for 1 BP while the BP reach.
 TableResult AskKeepTableResult(Game& game, std::string_view table);
 
 /// Rolls on the table until there is a row that the player keeps and `isUsable` accepts. Ends without one, having told

@@ -1,5 +1,8 @@
 #include "generation/sequencer.h"
 
+#include <algorithm>
+
+#include "dice/building_points.h"
 #include "dice/keep_roll.h"
 #include "generation/main_title.h"
 #include "generation/pending_stages.h"
@@ -33,7 +36,6 @@ constexpr bool kYouthTablesStand = false;
 
 constexpr float kGoldPerBP = 25.0F;
 constexpr int kLowestFreeWisdom = 6;
-constexpr float kTakeAfterBP = 30.0F;     ///< BP at which a half-blood may take after a parent's race
 constexpr int kLowestMiddleClass = 7;     ///< SocialClassIndex below this forces a mage into the rustic package
 constexpr float kRusticPackageBP = 6.0F;
 
@@ -123,7 +125,7 @@ void RunFamilyAndQuirks(Game& game) {
 
 void RunClassChoice(Game& game) {
   const bool isHalfBlood = !TakeAfterRaces(game.sheet.RaceName).empty();
-  if (isHalfBlood && game.run.BuildingPoints >= kTakeAfterBP) RunTakeAfter(game);
+  if (isHalfBlood && CanPay(game, kTakeAfterCost)) RunTakeAfter(game);
   RunStepNine(game);
 }
 
@@ -169,7 +171,7 @@ void FinishCharacter(Game& game) {
 
 void CashInBuildingPoints(Game& game) {
   const int started = game.sheet.GoldPieces;
-  const float bp = game.run.BuildingPoints;
+  const float bp = std::max(game.run.BuildingPoints, 0.0F);
   game.sheet.GoldPieces = TruncateToInt(static_cast<float>(started) + bp * kGoldPerBP);
   game.platform.ShowMessage(Format("You started with %i GP. Your %g BPs have been cashed in. You now have %i gold.",
                                    started, bp, game.sheet.GoldPieces));

@@ -9,7 +9,8 @@ namespace veld {
 /// Nothing is undone: what the character has it keeps.
 void RunGeneration(Game& game);
 
-/// BP left after the skills become gold, 25 gold a BP, fractions included; the player is told. Sets CurrentStep to 14.
+/// BP left after the skills become gold, 25 gold a BP, fractions included, a debt none; the player is told. Sets
+/// CurrentStep to 14.
 void CashInBuildingPoints(Game& game);
 
 /// Rolls the quirks whose last word the referee has: each is replaced by a result of its table. One whose table can give

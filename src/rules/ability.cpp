@@ -24,6 +24,18 @@ void NormalizeAbility(AbilityScore& score) {
   score.Whole = SaturateToInt(score.Whole + carried);
 }
 
+void NormalizeGained(AbilityScore& score, std::int64_t gained, bool stoodAtZero) {
+  NormalizeAbility(score);
+  const bool isAtZero = gained < 0 || (gained == 0 && stoodAtZero);
+  if (score.Percentile == 100 && isAtZero) score = {AddSaturated(score.Whole, 1), 0};
+  if (score.Percentile == 0 && !isAtZero) score = {AddSaturated(score.Whole, -1), 100};
+}
+
+bool StandsAtZero(AbilityScore score) {
+  NormalizeAbility(score);
+  return score.Percentile == 0;
+}
+
 float AbilityAsNumber(AbilityScore score) {
   return static_cast<float>(ReadDecimalPrefix(Format("%i.%i", score.Whole, score.Percentile)));
 }

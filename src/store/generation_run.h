@@ -35,6 +35,8 @@ struct GenerationRun {
   // Class choice (Step 9).
   ClassNumbers ClassAllowed{};  ///< highest level open in each ClassTable row, 0 barred
   ClassNumbers ClassHitPoints{};
+  std::array<int, 7> AtZeroBeforeGains{};  ///< 1: the ability stood at exactly 0 percent before its levels' gains
+  int AtZeroBeforeTattoos = 0;             ///< the same of Constitution before the first tattoo
 
   // Money and Honor (Step 10, 11).
   int MoneyBPSpent = 0;

@@ -121,6 +121,8 @@ std::string EncodeEquipment(const EquipmentArray& table) {
 }
 
 void DecodeSpells(std::string_view text, SpellArray& table) {
+  constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";  // some editors put one at the head of a text
+  if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
   table.fill(EmptySpell());
   for (std::size_t row = 0; row < kSpellRecords; ++row) TakeSpell(text, table[row]);
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <span>
+#include <vector>
 
 #include "dice/dice.h"
 #include "referee/training.h"
@@ -212,7 +213,6 @@ void EnterClass(Game& game, const ChainRun& run, int classRow) {
   }
   if (run.Spells >= 0) {
     game.run.StartingSpells = run.Spells;
-    if (classRow != kBloodMage) game.run.SpellListIndex = SaturateToInt(std::int64_t{sheet.Intelligence.Whole} * 2);
   }
   if (classRow == kBattleMage) {
     sheet.Wisdom.Whole = AddSaturated(sheet.Wisdom.Whole, -1);
@@ -251,9 +251,21 @@ void SetMonkAbilities(Game& game) {
   }
 }
 
-/// What some classes bring on every run. The tracking of barbarians and rangers loses 5 for each three levels of row 10
+/// A class that a class text names, as its levels left it.
+struct ClassOfChain {
+  const ChainRun* Run;
+  int Row;
+  bool IsEntered;  ///< the first level came in this run
+};
+
+/// What hangs on the abilities once all levels have their gains: the cantrips of a class just entered, and what some
+/// classes bring on every run. The tracking of barbarians and rangers loses 5 for each three levels of row 10
 /// before their levels are looked at and has them back after: nothing is left of it.
-void SetClassExtras(Game& game, int classRow) {
+void SetClassExtras(Game& game, const ClassOfChain& held) {
+  const int classRow = held.Row;
+  if (held.IsEntered && held.Run->Spells >= 0 && classRow != kBloodMage) {
+    game.run.SpellListIndex = SaturateToInt(std::int64_t{game.sheet.Intelligence.Whole} * 2);
+  }
   if (classRow == kBarbarian) SetBarbarianAbilities(game);
   if (classRow == kMonk) SetMonkAbilities(game);
   if (classRow == kBerserker) {
@@ -276,24 +288,27 @@ void MoveIllusionist(CharacterSheet& sheet) {
   for (int ability = 0; ability < kAbilityCount; ++ability) move(LevelGainAt(sheet, ability));
 }
 
-void RunClassOfChain(Game& game, const ChainRun& run, int namedRow) {
+ClassOfChain RunClassOfChain(Game& game, const ChainRun& run, int namedRow) {
   CharacterSheet& sheet = game.sheet;
   const int classRow = namedRow == kIllusionist ? kStandardIllusionist : namedRow;
   if (namedRow == kIllusionist) MoveIllusionist(sheet);
   const bool isNew = sheet.ClassLevels[Index(classRow)] == 0;
   AdvanceClassLevels(game, classRow);
   const int level = sheet.ClassLevels[Index(classRow)];
-  if (isNew && level > 0) EnterClass(game, run, classRow);
-  SetClassExtras(game, classRow);
+  const bool isEntered = isNew && level > 0;
+  if (isEntered) EnterClass(game, run, classRow);
   if (run.Spells >= 0) SetSpellsForLevel(game, level);
+  return {&run, classRow, isEntered};
 }
 
-void RunClassChain(Game& game, std::string_view classText) {
+std::vector<ClassOfChain> RunClassChain(Game& game, std::string_view classText) {
+  std::vector<ClassOfChain> classes;
   for (const ChainRun& run : kClassChain) {
     for (int row = run.First; row <= run.Last; ++row) {
-      if (NamesClass(classText, row)) RunClassOfChain(game, run, row);
+      if (NamesClass(classText, row)) classes.push_back(RunClassOfChain(game, run, row));
     }
   }
+  return classes;
 }
 
 // ---- Sums over the classes held ----
@@ -333,23 +348,35 @@ void SumGains(CharacterSheet& sheet) {
   }
 }
 
-/// Adds the average gain of the classes to the percentiles (sign 1) or takes it out of them (sign -1).
-void AddGainsToAbilities(CharacterSheet& sheet, const ClassTotals& totals, int sign) {
-  if (totals.Classes <= 0) return;
+/// The average gain of the classes in an ability, in percentile points.
+std::int64_t AverageGain(const ClassTotals& totals, int ability) {
+  return totals.Classes > 0 ? totals.Gains[Index(ability)] / totals.Classes : 0;
+}
+
+/// Takes out of the abilities what the last run added, and remembers which score stood at 0 without it. Only the classes
+/// of the first 99 rows are taken out, though those of all rows are added: so it stands in the rules, and only the last
+/// rows of the table feel it. Until AddGains the whole scores are those with the gains: new levels are rolled by them.
+void TakeOutGains(Game& game) {
+  ClassTotals totals;
+  for (std::size_t row = 0; row < kGainRows; ++row) {
+    if (game.sheet.ClassLevels[row] > 0) totals.AddGains(game.sheet, row);
+  }
   for (int ability = 0; ability < kAbilityCount; ++ability) {
-    int& percentile = AbilityAt(sheet, ability).Percentile;
-    percentile = SaturateToInt(percentile + sign * (totals.Gains[Index(ability)] / totals.Classes));
+    AbilityScore& score = AbilityAt(game.sheet, ability);
+    const std::int64_t gain = AverageGain(totals, ability);
+    if (gain == 0) game.run.AtZeroBeforeGains[Index(ability)] = StandsAtZero(score) ? 1 : 0;
+    score.Percentile = SaturateToInt(score.Percentile - gain);
   }
 }
 
-/// Takes out of the abilities what the last run added. Only the classes of the first 99 rows are taken out, though
-/// those of all rows are added: so it stands in the rules, and only the last rows of the table feel it.
-void TakeOutGains(CharacterSheet& sheet) {
-  ClassTotals totals;
-  for (std::size_t row = 0; row < kGainRows; ++row) {
-    if (sheet.ClassLevels[row] > 0) totals.AddGains(sheet, row);
+/// Adds the average gain of the classes to the abilities.
+void AddGains(Game& game, const ClassTotals& totals) {
+  for (int ability = 0; ability < kAbilityCount; ++ability) {
+    AbilityScore& score = AbilityAt(game.sheet, ability);
+    const std::int64_t gain = AverageGain(totals, ability);
+    score.Percentile = SaturateToInt(score.Percentile + gain);
+    NormalizeGained(score, gain, game.run.AtZeroBeforeGains[Index(ability)] == 1);
   }
-  AddGainsToAbilities(sheet, totals, -1);
 }
 
 void SumHitPoints(Game& game) {
@@ -415,6 +442,20 @@ void SetHitPoints(Game& game, std::int64_t rolled, std::int64_t classes) {
   sheet.HitPoints = classes > 0 ? SaturateToInt((rolled + std::int64_t{sheet.HitDiceCount} * perDie) / classes) : 0;
 }
 
+/// The movement of the race after lost legs.
+void SetBaseMovement(CharacterSheet& sheet, const RaceRecord& race) {
+  const int left = sheet.SkillScores[kPegLegLeft];
+  const int right = sheet.SkillScores[kPegLegRight];
+  const bool noPegLeg = std::int64_t{left} + right == 0;
+  int movement = race.BaseMovement;
+  // The loss of one leg slows more than that of both: a slip of the book that is kept.
+  if (sheet.QuirkCounts[kBothLegsLost] == 1 && noPegLeg) movement -= 3;
+  if (sheet.QuirkCounts[kOneLegLost] == 1 && noPegLeg) movement = 4;
+  if (sheet.QuirkCounts[kOneLegLost] == 1 && left > 0 && right > 0) movement -= 1;
+  sheet.BaseMovement = movement;
+  sheet.MovementRow2 = race.SecondMovement;
+}
+
 }  // namespace
 
 bool NamesKnownClass(std::string_view className) {
@@ -429,8 +470,9 @@ bool NamesKnownClass(std::string_view className) {
 int EarnedLevel(int classRow, float experience) {
   if (classRow < 1 || classRow > kLastSingleClass) return 0;
   const auto& ladder = ClassAt(classRow).ExperienceForLevel;
+  const double earned = experience > 0 ? experience : 0;
   int level = 0;
-  while (level < kHighestLevel && double{experience} >= ladder[Index(level + 1)]) ++level;
+  while (level < kHighestLevel && earned >= ladder[Index(level + 1)]) ++level;
   return level;
 }
 
@@ -453,22 +495,12 @@ void ComputeSaves(Game& game, int classRow) {
 
 void ComputeMovement(Game& game) {
   CharacterSheet& sheet = game.sheet;
-  const int row = FindSearchedRaceRow(sheet.RaceName, sheet.Gender);
-  if (row < 0) return;
-  const RaceRecord& race = RaceTable()[Index(row)];
-  const int left = sheet.SkillScores[kPegLegLeft];
-  const int right = sheet.SkillScores[kPegLegRight];
-  const bool noPegLeg = std::int64_t{left} + right == 0;
-  int movement = race.BaseMovement;
-  // The loss of one leg slows more than that of both: a slip of the book that is kept.
-  if (sheet.QuirkCounts[kBothLegsLost] == 1 && noPegLeg) movement -= 3;
-  if (sheet.QuirkCounts[kOneLegLost] == 1 && noPegLeg) movement = 4;
-  if (sheet.QuirkCounts[kOneLegLost] == 1 && left > 0 && right > 0) movement -= 1;
-  sheet.BaseMovement = movement;
-  sheet.MovementRow2 = race.SecondMovement;
-  sheet.MovementLight = static_cast<int>(std::lround(movement * 0.75));
-  sheet.MovementModerate = movement / 2;
-  sheet.MovementHeavy = movement / 4;
+  if (const int row = FindSearchedRaceRow(sheet.RaceName, sheet.Gender); row >= 0) {
+    SetBaseMovement(sheet, RaceTable()[Index(row)]);
+  }
+  sheet.MovementLight = static_cast<int>(std::lround(sheet.BaseMovement * 0.75));
+  sheet.MovementModerate = sheet.BaseMovement / 2;
+  sheet.MovementHeavy = sheet.BaseMovement / 4;
 }
 
 void SetSpellsForLevel(Game& game, int level) {
@@ -483,17 +515,17 @@ void RecomputeFromClasses(Game& game, Form* window) {
   HoldLevels(sheet);
   sheet.ProficiencySlots = 0;
   SumGains(sheet);
-  TakeOutGains(sheet);
+  TakeOutGains(game);
   ClearBestSaves(sheet);
-  RunClassChain(game, classText);
+  const std::vector<ClassOfChain> classes = RunClassChain(game, classText);
   SumHitPoints(game);
   SumGains(sheet);
   std::int64_t hitPoints = 0;
   const ClassTotals totals = GatherClasses(game, hitPoints);
   SetHitPoints(game, hitPoints, totals.Classes);
   ComputeMovement(game);
-  AddGainsToAbilities(sheet, totals, 1);
-  for (int ability = 0; ability < kAbilityCount; ++ability) NormalizeAbility(AbilityAt(sheet, ability));
+  AddGains(game, totals);
+  for (const ClassOfChain& held : classes) SetClassExtras(game, held);
   if (totals.Classes > 0) ComputeHonorDie(game, static_cast<int>(totals.Levels / totals.Classes));
   if (window) window->SetText(kLevelsControl, sheet.LevelText);
   SetThiefBaseScores(game);

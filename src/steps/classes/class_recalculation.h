@@ -16,7 +16,8 @@ void RecomputeFromClasses(Game& game, Form* window = nullptr);
 /// True if the text names a class, alone or among others.
 bool NamesKnownClass(std::string_view className);
 
-/// The level (0 to 98) that an experience reaches in a class of one ladder: every level up to it needs no more.
+/// The level (0 to 98) that an experience reaches in a class of one ladder: every level up to it needs no more. An
+/// experience below 0 counts as 0: a class is given up by hand, never lost.
 int EarnedLevel(int classRow, float experience);
 
 /// Raises a class level by level to what its experience earns and its race allows, or takes back the levels that the
@@ -28,7 +29,7 @@ void AdvanceClassLevels(Game& game, int classRow);
 void ComputeSaves(Game& game, int classRow);
 
 /// Sets movement from race, gender, lost legs and peg legs. A race and gender that the search leaves out keeps what the
-/// choice of the race gave.
+/// choice of the race gave, and the slower rates follow from that.
 void ComputeMovement(Game& game);
 
 /// Sets the spell slots of the run for a mage's level.

@@ -1,7 +1,10 @@
 #include "steps/classes/take_after.h"
 
+#include "dice/building_points.h"
 #include "rules/race_table.h"
 #include "steps/quirks/quirk_effects.h"
+#include "steps/quirks/quirk_effects.h"
+#include "steps/race/race_choice.h"
 #include "steps/race/race_choice.h"
 
 namespace veld {
@@ -31,10 +34,9 @@ std::span<const std::string_view> TakeAfterRaces(std::string_view race) {
 }
 
 void TakeAfter(Game& game, std::string_view race) {
-  if (race.empty()) return;
+  if (race.empty() || !Pay(game, kTakeAfterCost)) return;
   game.sheet.TalentDetailNames[2][0] = race;
   game.sheet.TalentDetailCounts[2][0] = 1;
-  game.run.BuildingPoints -= kTakeAfterCost;
   BindRaceRow(game);
   BarClassesForQuirks(game);
 }

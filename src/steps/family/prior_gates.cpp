@@ -2,6 +2,7 @@
 
 #include <initializer_list>
 
+#include "dice/building_points.h"
 #include "rules/priors_tables.h"
 #include "rules/quirk_table.h"
 #include "steps/family/priors.h"
@@ -64,19 +65,13 @@ constexpr std::array<PriorTable, kPriorCount> kPriorTables{{
 }};
 // clang-format on
 
-bool TakeBP(Game& game) {
-  if (!(game.run.BuildingPoints > 0)) return false;
-  game.run.BuildingPoints -= 1.0F;
-  return true;
-}
-
 /// What a press of an open table did.
 enum class Rolled { No, First, Again };
 
 Rolled RollPrior(Game& game, Prior prior) {
   const PriorTable& table = kPriorTables[prior];
   const bool isAgain = table.HasResult(game.sheet);
-  if (isAgain && !TakeBP(game)) return Rolled::No;
+  if (isAgain && !Pay(game)) return Rolled::No;
   table.Generate(game);
   return isAgain ? Rolled::Again : Rolled::First;
 }
@@ -269,8 +264,8 @@ void CheckStepParents(Game& game, PriorGates& gates) {
     ++presses;
   };
   if (presses > 1) {
-    if (needsFather() && TakeBP(game)) checkFather();
-    if (needsMother() && TakeBP(game)) checkMother();
+    if (needsFather() && Pay(game)) checkFather();
+    if (needsMother() && Pay(game)) checkMother();
   } else if (needsFather()) {
     checkFather();
   } else if (needsMother()) {

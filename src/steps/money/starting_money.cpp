@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "dice/building_points.h"
 #include "dice/dice.h"
 #include "rules/money_tables.h"
 #include "text/format.h"
@@ -58,16 +59,12 @@ int RollClassAge(Game& game) {
 }
 
 bool PayForRoll(Game& game, bool isFirst) {
-  if (isFirst) return true;
-  if (!(game.run.BuildingPoints > 0)) return false;
-  game.run.BuildingPoints -= 1.0F;
-  return true;
+  return isFirst || Pay(game);
 }
 
 bool SpendMoneyBP(Game& game, std::int64_t bp) {
   if (bp < 0 || bp > kLargestEntry) return false;
-  if (bp > 0 && static_cast<float>(bp) > game.run.BuildingPoints) return false;
-  game.run.BuildingPoints -= static_cast<float>(bp);
+  if (bp > 0 && !Pay(game, static_cast<float>(bp))) return false;
   game.run.MoneyBPSpent = static_cast<int>(bp);
   return true;
 }

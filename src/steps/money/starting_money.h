@@ -11,7 +11,7 @@ namespace veld {
 /// Rolls the years that the training for the character's class took, 0 to 24.
 int RollClassAge(Game& game);
 
-/// Takes 1 BP for a roll that isn't the first. Returns false, with nothing taken, if no BP are left.
+/// Takes 1 BP for a roll that isn't the first. Returns false, with nothing taken, if the BP do not reach for it.
 bool PayForRoll(Game& game, bool isFirst);
 
 /// Takes BP for the money roll into MoneyBPSpent. Refuses what is negative or more than there is, but never 0.

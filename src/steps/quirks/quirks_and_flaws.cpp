@@ -291,6 +291,7 @@ int RollQuirkWork(Game& game, QuirkWork& work, int entry) {
   const std::string_view table = isEntry ? work.Tables[static_cast<std::size_t>(entry)] : std::string_view{};
   if (isEntry && (!IsStartTable(table) || game.run.QuirkRollsLeft > 0)) {
     const int row = RollQuirkRow(game, table);
+    work.Rolls = AddSaturated(work.Rolls, 1);
     entry = SettleEntry(game, work, entry);
     if (row > 0) TakeQuirkResult(game, work, row);
   }
@@ -309,6 +310,7 @@ std::string NextQuirkRoll(const Game& game, const QuirkWork& work, int entry) {
 
 void TakeQuirkResult(Game& game, QuirkWork& work, int row) {
   const QuirkRecord& quirk = QuirkAt(row);
+  const bool mayOwe = work.Rolls < kLastOwingRoll;
   switch (quirk.Kind) {
     case kRefereeQuirk:
       game.platform.ShowMessage(
@@ -322,10 +324,10 @@ void TakeQuirkResult(Game& game, QuirkWork& work, int row) {
       CheapenRepeats(game, row);
       break;
     case kSubTable:
-      Owe(work, quirk.NextTable, std::max(quirk.Rolls, 1));
+      if (mayOwe) Owe(work, quirk.NextTable, std::max(quirk.Rolls, 1));
       break;
     default:
-      OweNamedTables(work, quirk.Name, false);
+      if (mayOwe) OweNamedTables(work, quirk.Name, false);
       break;
   }
 }

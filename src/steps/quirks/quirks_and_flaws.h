@@ -30,7 +30,13 @@ void RunMajorQuirk(Game& game);
 /// The tables to roll on. The 6A tables stand at the head, every other one is owed one roll.
 struct QuirkWork {
   std::vector<std::string_view> Tables;
+  int Rolls = 0;  ///< made so far
 };
+
+/// From this roll of one work list on, a row that only owes further rolls owes none. Each roll on table 6C that yields
+/// no flaw owes more than one new roll on the average, so that a run of bad luck would have no end. Most players are
+/// done after two dozen rolls, and hardly any makes so many.
+inline constexpr int kLastOwingRoll = 150;
 
 /// Begins a work list: forgets what quirks earned (rows 0 to 599), lists the 6A tables of the books in use and turns
 /// the rows held that stand for further rolls into entries.
@@ -48,7 +54,7 @@ int RollQuirkWork(Game& game, QuirkWork& work, int entry);
 /// What a player does next, in one sentence; `entry` is the selected one.
 std::string NextQuirkRoll(const Game& game, const QuirkWork& work, int entry);
 
-/// A row comes up: it is held and paid, or owes further rolls.
+/// A row comes up: it is held and paid, or owes further rolls (see kLastOwingRoll).
 void TakeQuirkResult(Game& game, QuirkWork& work, int row);
 
 /// Puts the catalogue's BP back and wipes out what the rows held exclude: their counts and BP go, and they can't be

@@ -1,5 +1,6 @@
 #include "steps/skills/buy_skill.h"
 
+#include "dice/building_points.h"
 #include "dice/dice.h"
 #include "rules/skill_prices.h"
 #include "steps/race/get_name.h"
@@ -85,7 +86,7 @@ float DrawOnBudgets(const Game& game, const SkillTarget& target, float cost, Pur
 /// A grant is free as it is, and takes no discount.
 bool OffersStyleDiscount(const Game& game, const SkillTarget& target, float price) {
   return IsPlain(target) && IsMartialStyle(target.Row) && game.run.MartialStyleDiscount > 0 && price > 0 &&
-         price - kStyleDiscount <= game.run.BuildingPoints;
+         CanPay(game, price - kStyleDiscount);
 }
 
 /// The cost after the offer of the discount.
@@ -117,7 +118,7 @@ std::string LackOfRoom(const Game& game, const SkillTarget& target) {
 }
 
 std::string LackOfBP(const SkillTarget& target, float price, float cost, float buildingPoints) {
-  if (buildingPoints >= cost) return {};
+  if (Reaches(buildingPoints, cost)) return {};
   return Format("The Skill: %s requires %s to purchase, you only have %g BP.", NameOf(target), Format("%g BP", price),
                 buildingPoints);
 }

@@ -1,5 +1,6 @@
 #include "steps/skills/pirate_skills.h"
 
+#include "dice/building_points.h"
 #include "dice/dice.h"
 #include "rules/purchase_rules.h"
 #include "steps/skills/buy_skill.h"
@@ -53,10 +54,9 @@ void TakeTrade(Game& game, const PirateTrade& trade) {
 void RollPirateSkills(Game& game) {
   while (true) {
     const PirateTrade& trade = TradeOf(RollDice(game, 100, 1));
-    if (!(game.run.BuildingPoints > 0)) return;
+    if (!CanPay(game)) return;
     const std::string question = Format("Table IL: Pirate Skills - Keep your result of %s?", trade.Skill);
-    if (game.platform.AskYesNo("Reroll costs 1 BP", question) != Answer::No) return TakeTrade(game, trade);
-    game.run.BuildingPoints -= 1.0F;
+    if (AskKeep(game, question)) return TakeTrade(game, trade);
   }
 }
 

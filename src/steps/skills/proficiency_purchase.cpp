@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "dice/building_points.h"
 #include "rules/class_table.h"
 #include "rules/proficiency_table.h"
 #include "steps/skills/pick_dialogs.h"
@@ -22,6 +23,7 @@ constexpr int kMasteryLevel = 5;          ///< as a Fighter
 constexpr int kMostSingleWeapon = 4;      ///< steps of the style that is counted in multiples
 constexpr int kDearestForAbilities = 10;  ///< abilities are for weapons that cost less than this to specialize in
 constexpr int kEmptyPick = -1;
+constexpr const char* kGivingUpIsTooDear = "Giving it up costs 1 BP, and you do not have it.";
 
 std::size_t At(int number) { return static_cast<std::size_t>(number); }
 
@@ -58,13 +60,21 @@ std::string ObstacleToAddWeapon(const Game& game, int row) {
   return {};
 }
 
+/// BP that giving a weapon up costs; below 0 they come back. The last that a fighter gives up is taken to be the one that
+/// cost no BP, and a half step was no purchase.
+int RemovalCharge(const Game& game, int row) {
+  const bool wasFree =
+      game.sheet.IsFighterClass == 1 && game.sheet.ProficiencySlotsUsed == ProficiencySlotCost(game, row);
+  return (wasFree ? 1 : 0) - (LevelOf(game, row) == ProficiencyMark::Limited ? 0 : 1);
+}
+
 std::string ObstacleToRemoveWeapon(const Game& game, int row) {
   const int level = LevelOf(game, row);
   if (!IsHeld(level)) return "You are not proficient in it.";
   if (level >= ProficiencyMark::Specialized && !CanBeTakenAgain(row)) {
     return "Your Specialization must be removed first.";
   }
-  return {};
+  return RemovalCharge(game, row) > 0 && !CanPay(game) ? kGivingUpIsTooDear : "";
 }
 
 void AddWeapon(Game& game, int row) {
@@ -78,12 +88,9 @@ void AddWeapon(Game& game, int row) {
 
 void RemoveWeapon(Game& game, int row) {
   int& level = game.sheet.ProficiencyLevels[At(row)];
-  const int slots = ProficiencySlotCost(game, row);
-  // The last that a fighter gives up is taken to be the one that cost no BP.
-  const int owed = game.sheet.IsFighterClass == 1 && game.sheet.ProficiencySlotsUsed == slots ? 1 : 0;
-  const int back = level == ProficiencyMark::Limited ? 0 : 1;
+  const int bp = RemovalCharge(game, row);
   level = level == ProficiencyMark::Limited ? ProficiencyMark::None : level - 1;
-  Charge(game, -slots, owed - back);
+  Charge(game, -ProficiencySlotCost(game, row), bp);
 }
 
 // --- Abilities that are taken for a weapon ---
@@ -111,7 +118,7 @@ std::string ObstacleToAddAbility(const Game& game, int ability) {
 std::string ObstacleToRemoveAbility(const Game& game, const ProficiencyPlace& place) {
   const auto& picks = game.sheet.ProficiencyPicks[At(place.Ability)];
   if (place.Row < 0 || std::ranges::find(picks, place.Row) == picks.end()) return "You do not have it.";
-  if (game.run.BuildingPoints <= 0) return "Giving it up costs 1 BP, and you have none.";
+  if (!CanPay(game)) return kGivingUpIsTooDear;
   return ProficiencySlotsAreOut(game) ? "Giving it up costs 1 slot, and you have none." : "";
 }
 
@@ -157,8 +164,7 @@ std::string ProficiencyObstacle(const Game& game, const ProficiencyPlace& place,
   std::string own = isAbility ? ObstacleToAddAbility(game, place.Ability) : ObstacleToAddWeapon(game, place.Row);
   if (!own.empty()) return own;
   if (ProficiencySlotsAreOut(game)) return SlotsOutText(game);
-  if (game.run.BuildingPoints <= 0 && game.sheet.IsFighterClass == 0) return "It costs 1 BP, and you have none.";
-  return {};
+  return IsNextProficiencyFree(game) || CanPay(game) ? "" : "It costs 1 BP, and you do not have it.";
 }
 
 bool ChangeProficiency(Game& game, std::string_view name, int direction) {
@@ -188,7 +194,7 @@ std::string SpecializationObstacle(const Game& game, int row, int direction) {
   if (direction < 0) {
     if (level > ProficiencyMark::Specialized) return MasteryObstacle(game, row, -1);
     if (level < ProficiencyMark::Specialized) return "You are not specialized in it.";
-    return static_cast<float>(-cost) <= game.run.BuildingPoints ? "" : Format("You are more than %i BP in debt.", cost);
+    return CanPay(game, static_cast<float>(-cost)) ? "" : Format("You are more than %i BP in debt.", cost);
   }
   if (level != ProficiencyMark::Proficient) {
     return level > ProficiencyMark::Proficient ? "You are specialized in it."
@@ -197,10 +203,8 @@ std::string SpecializationObstacle(const Game& game, int row, int direction) {
   if (game.sheet.FreeWeaponProficiencySlots <= 0) return "You have no step of Specialization to take.";
   if (HasLevelIn(game, kKnightErrant)) return {};
   if (ProficiencySlotsAreOut(game)) return SlotsOutText(game);
-  if (game.run.BuildingPoints <= 0 || static_cast<float>(cost) > game.run.BuildingPoints) {
-    return Format("Specialization costs %i BP and you have %g.", cost, game.run.BuildingPoints);
-  }
-  return {};
+  if (CanPay(game, static_cast<float>(cost))) return {};
+  return Format("Specialization costs %i BP and you have %g.", cost, game.run.BuildingPoints);
 }
 
 bool Specialize(Game& game, int row, int direction) {
@@ -231,7 +235,9 @@ std::string MasteryObstacle(const Game& game, int row, int direction) {
   if (direction < 0) return {};
   if (ProficiencySlotsAreOut(game)) return SlotsOutText(game);
   if (game.sheet.ClassLevels[kFighter] < kMasteryLevel) return "Mastery needs the 5th level as a Fighter.";
-  return {};
+  const int cost = WeaponAt(row).SpecializationCost;
+  if (CanPay(game, static_cast<float>(cost))) return {};
+  return Format("A step of Mastery costs %i BP and you have %g.", cost, game.run.BuildingPoints);
 }
 
 bool Master(Game& game, int row, int direction) {

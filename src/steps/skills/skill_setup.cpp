@@ -157,6 +157,7 @@ void Grant(Game& game, const ClassGrant& grant) {
 }  // namespace
 
 void RunSkillSetup(Game& game) {
+  GrantRaceTalents(game);
   const int kept = TruncateToInt(game.run.BuildingPoints);
   game.run.BuildingPoints = kSetupBP;
   PayHonorOfYouth(game);

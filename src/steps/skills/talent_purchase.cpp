@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "dice/building_points.h"
 #include "rules/talent_prices.h"
 #include "rules/talent_table.h"
 #include "steps/race/get_name.h"
@@ -34,6 +35,19 @@ std::string_view ItemName(const Game& game, const TalentPlace& place) {
 bool CanBeTakenAgain(std::string_view name) { return Contains(name, "Bonus"); }
 bool IsGivenByRace(const Game& game, const TalentPlace& place) {
   return place.Row >= 0 && TalentCount(game, place) == kTalentOfRace;
+}
+
+/// The family whose first item is the race that a half-blood takes after. Its name is that race's alone: the limits of
+/// the classes are looked up by it.
+constexpr int kTakeAfterFamily = 2;
+
+bool IsTakeAfter(const TalentPlace& place) { return place.Family == kTakeAfterFamily; }
+
+/// How an item stands in the lists.
+std::string ShownItem(const Game& game, const TalentPlace& place) {
+  const std::string_view item = ItemName(game, place);
+  const bool needsFamily = IsTakeAfter(place) && !Contains(item, NameOf(place));
+  return needsFamily ? Format("%s: %s", NameOf(place), item) : std::string(item);
 }
 
 /// Calls `visit` with each item that is held and has a name; it returns false to end the walk.
@@ -112,11 +126,11 @@ std::string ObstacleToAdd(const Game& game, const TalentPlace& place) {
 
 /// The line of a talent in the list of those held.
 std::string HeldText(const Game& game, const TalentPlace& place) {
-  const std::string_view name = place.Row >= 0 ? NameOf(place) : ItemName(game, place);
+  const std::string name = place.Row >= 0 ? std::string(NameOf(place)) : ShownItem(game, place);
   const int count = TalentCount(game, place);
   if (count > 0 && CanBeTakenAgain(NameOf(place))) return Format("%s x%i", name, count);
   if (count > 0 && IsLuckyTalent(place)) return Format("%s d%i", name, count);
-  return std::string(name);
+  return name;
 }
 
 }  // namespace
@@ -140,7 +154,7 @@ TalentPlace FindTalent(const Game& game, std::string_view name) {
   // Items come first: what a player named one must not be taken for another talent.
   TalentPlace found;
   ForEachItemHeld(game, [&](const TalentPlace& place) {
-    if (TrimRight(ItemName(game, place)) == sought) found = place;
+    if (TrimRight(ShownItem(game, place)) == sought) found = place;
     return found.IsNone();
   });
   if (!found.IsNone()) return found;
@@ -159,13 +173,13 @@ int TalentPriceNow(const Game& game, const TalentPlace& place) {
 
 std::string TalentObstacle(const Game& game, const TalentPlace& place, int direction, int price) {
   if (place.IsNone()) return "There is no such talent.";
+  if (IsTakeAfter(place)) return "Whom you take after is settled before your class.";
   if (IsGivenByRace(game, place)) return "Your race has this talent for nothing.";
   if (direction < 0 && TalentCount(game, place) <= 0) return "You do not have this talent.";
   if (direction > 0) {
     if (std::string obstacle = ObstacleToAdd(game, place); !obstacle.empty()) return obstacle;
   }
-  const float cost = static_cast<float>(direction) * static_cast<float>(price);
-  if (cost <= game.run.BuildingPoints) return {};
+  if (CanPay(game, static_cast<float>(direction) * static_cast<float>(price))) return {};
   return direction > 0 ? Format("It costs %i BP and you have %g.", price, game.run.BuildingPoints)
                        : Format("You are more than %i BP in debt.", price);
 }
@@ -202,10 +216,13 @@ void GrantRaceTalents(Game& game) {
 std::vector<TalentLine> TalentsOffered(const Game& game) {
   const SkillBuyer buyer = MakeSkillBuyer(game);
   std::vector<TalentLine> lines;
-  const auto append = [&](std::string_view name) { lines.push_back({PlaceOf(name), std::string(TrimRight(name))}); };
+  const auto append = [&](std::string_view name) {
+    const TalentPlace place = PlaceOf(name);
+    if (!IsTakeAfter(place)) lines.push_back({place, std::string(TrimRight(name))});
+  };
   for (const std::string_view name : TalentsOpenToRace(buyer)) append(name);
   ForEachItemHeld(game, [&](const TalentPlace& place) {
-    lines.push_back({place, std::string(ItemName(game, place))});
+    if (!IsTakeAfter(place)) lines.push_back({place, std::string(ItemName(game, place))});
     return true;
   });
   for (const std::string_view name : FurtherTalents(buyer)) append(name);

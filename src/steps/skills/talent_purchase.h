@@ -44,7 +44,8 @@ bool IsLuckyTalent(const TalentPlace& place);
 /// What one step of the talent costs the character now, in whole BP.
 int TalentPriceNow(const Game& game, const TalentPlace& place);
 
-/// Why ChangeTalent would do nothing, in one sentence; empty if it would go through.
+/// Why ChangeTalent would do nothing, in one sentence; empty if it would go through. Take After is neither bought nor
+/// given up this way: the character's classes hang on it.
 std::string TalentObstacle(const Game& game, const TalentPlace& place, int direction, int price);
 
 /// Adds (direction 1) or takes away (-1) one step of a talent for `price` BP, which is given back on taking it away; a
@@ -60,10 +61,12 @@ bool GrantTalentItem(Game& game, int family, std::string_view item);
 /// Marks the talents that the character's race has for nothing; they can't be taken away.
 void GrantRaceTalents(Game& game);
 
-/// What may be taken: the talents open to the race, the items held, and what class, package and background open.
+/// What may be taken: the talents open to the race, the items held, and what class, package and background open. Take
+/// After, which must be taken before the class, is not among them.
 std::vector<TalentLine> TalentsOffered(const Game& game);
 
-/// What is held, with the count of a Bonus ("Dart Bonus x2") and the die of a Lucky one ("Lucky d6").
+/// What is held, with the count of a Bonus ("Dart Bonus x2"), the die of a Lucky one ("Lucky d6") and the race of Take
+/// After ("Take After: Human").
 std::vector<TalentLine> TalentsHeld(const Game& game);
 
 }  // namespace veld

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
+#include "dice/building_points.h"
 #include "rules/race_table.h"
+#include "steps/abilities/ability_effects_apply.h"
 #include "steps/abilities/ability_effects_apply.h"
 #include "text/format.h"
 #include "text/numbers.h"
@@ -116,19 +118,36 @@ int LocationOn(const TattooRecord& tattoo, int place) {
 
 bool CanTake(const Game& game, const TattooRecord& tattoo, int place) {
   if (place < kForehead || place > kRightLowerArm || game.sheet.*tattoo.Location != kNoPlace) return false;
-  if (static_cast<float>(tattoo.Cost) > game.run.BuildingPoints) return false;
+  if (!CanPay(game, static_cast<float>(tattoo.Cost))) return false;
   if (tattoo.Places.find(static_cast<char>('0' + place)) == std::string_view::npos) return false;
   bool isFree = true;
   ForEachPlaceOf(LocationOn(tattoo, place), [&](int taken) { isFree = isFree && IsFree(game, taken); });
   return isFree;
 }
 
+/// Percentile points of Constitution that the tattoos owned have cost.
+int ConstitutionLost(const CharacterSheet& sheet) {
+  int lost = 0;
+  for (const TattooRecord& tattoo : kTattooTable) {
+    if (sheet.*tattoo.Location != kNoPlace) lost += tattoo.ConstitutionLoss;
+  }
+  return lost;
+}
+
+/// Takes a tattoo's toll of Constitution (`sign` 1) or gives it back (-1); the tattoo's place is settled before.
+void ChargeConstitution(Game& game, const TattooRecord& tattoo, int sign) {
+  AbilityScore& constitution = game.sheet.Constitution;
+  const int lost = ConstitutionLost(game.sheet);
+  if (lost - sign * tattoo.ConstitutionLoss == 0) game.run.AtZeroBeforeTattoos = StandsAtZero(constitution) ? 1 : 0;
+  constitution.Percentile = AddSaturated(constitution.Percentile, -sign * tattoo.ConstitutionLoss);
+  NormalizeGained(constitution, -lost, game.run.AtZeroBeforeTattoos == 1);
+}
+
 /// Pays for a tattoo (`sign` 1) or takes the payment back (-1), with what it does to the abilities.
 void PayTattoo(Game& game, const TattooRecord& tattoo, int sign) {
   CharacterSheet& sheet = game.sheet;
   game.run.BuildingPoints -= static_cast<float>(sign * tattoo.Cost);
-  sheet.Constitution.Percentile = AddSaturated(sheet.Constitution.Percentile, -sign * tattoo.ConstitutionLoss);
-  NormalizeAbility(sheet.Constitution);
+  ChargeConstitution(game, tattoo, sign);
   sheet.Strength.Whole = AddSaturated(sheet.Strength.Whole, sign * tattoo.StrengthGain);
   sheet.Charisma.Whole = AddSaturated(sheet.Charisma.Whole, sign * tattoo.CharismaGain);
   sheet.Comeliness.Whole = AddSaturated(sheet.Comeliness.Whole, sign * tattoo.CharismaGain);

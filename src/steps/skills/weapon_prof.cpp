@@ -105,9 +105,6 @@ std::string DamageLine(const ProficiencyPlace& place) {
   return Format("%s / %s / %s / %s / %s / %s", d[0], d[1], d[2], d[3], d[4], d[5]);
 }
 
-/// The page takes nothing without BP but the first proficiency, not even of a fighter.
-bool IsOutOfBP(const Game& game) { return game.run.BuildingPoints <= 0 && game.sheet.ProficiencySlotsUsed > 0; }
-
 /// More slots than are left may be taken, but not kept.
 std::string_view WarningOf(const Game& game, int slots) {
   return slots > SlotsLeft(game) ? " You have too few: something else must be given up then." : "";
@@ -115,7 +112,6 @@ std::string_view WarningOf(const Game& game, int slots) {
 
 std::string NoteOnTaking(const Game& game, const ProficiencyPlace& place) {
   if (std::string obstacle = ProficiencyObstacle(game, place, 1); !obstacle.empty()) return obstacle;
-  if (IsOutOfBP(game)) return "It costs 1 BP, and you have none.";
   const std::string_view bp = IsNextProficiencyFree(game) ? "no BP" : "1 BP";
   if (place.Ability >= 0) return Format("It costs %s and 1 slot. You will be asked which weapon it is for.", bp);
   if (LevelOf(game, place) == ProficiencyMark::Limited) {
@@ -171,7 +167,7 @@ void Press(Game& game, WeaponProfPage& page, int id) {
       page.mode = id == kAllMode ? ProficiencyMode::All : ProficiencyMode::Class;
       break;
     case kTake:
-      if (!IsOutOfBP(game)) ChangeProficiency(game, SelectedIn(page, kOffered), 1);
+      ChangeProficiency(game, SelectedIn(page, kOffered), 1);
       break;
     case kRemove:
       ChangeProficiency(game, held, -1);

@@ -1,7 +1,11 @@
 #include "steps/spells/spell_books.h"
 
 #include <algorithm>
+#include <array>
+#include <cmath>
+#include <span>
 
+#include "dice/building_points.h"
 #include "dice/dice.h"
 #include "rules/spell_book_tables.h"
 #include "store/safe_file.h"
@@ -11,21 +15,38 @@ namespace veld {
 
 namespace {
 
-constexpr std::string_view kRerollCaption = "Reroll costs 1 BP";
 constexpr std::size_t kMostSpellsInBook = 100;
 
-/// A d100 for a table until the player keeps what it says; a refusal costs 1 BP, and without BP nothing is asked.
+constexpr std::array<std::string_view, 9> kUnits = {"First", "Second",  "Third",  "Fourth", "Fifth",
+                                                    "Sixth", "Seventh", "Eighth", "Ninth"};
+constexpr std::array<std::string_view, 10> kTeens = {"Tenth",     "Eleventh",  "Twelfth",     "Thirteenth", "Fourteenth",
+                                                     "Fifteenth", "Sixteenth", "Seventeenth", "Eighteenth", "Nineteenth"};
+constexpr std::array<std::string_view, 5> kTens = {"", "", "Twenty", "Thirty", "Forty"};
+constexpr std::array<std::string_view, 6> kRoundTens = {"", "", "Twentieth", "Thirtieth", "Fortieth", "Fiftieth"};
+
+/// A d100 for a table until the player keeps what it says.
 template <typename IndexOf, typename Question>
 int RollKept(Game& game, const IndexOf& indexOf, const Question& question) {
   while (true) {
     const int index = indexOf(RollDice(game, 100, 1));
-    if (!(game.run.BuildingPoints > 0)) return index;
-    if (game.platform.AskYesNo(kRerollCaption, question(index)) != Answer::No) return index;
-    game.run.BuildingPoints -= 1.0F;
+    if (AskKeep(game, question(index))) return index;
   }
 }
 
 std::size_t At(int index) { return static_cast<std::size_t>(index); }
+
+/// A weight with at most two decimals.
+std::string Pounds(double weight) { return Format("%g", std::round(weight * 100) / 100); }
+
+/// "First" to "Fiftieth".
+std::string Ordinal(std::size_t number) {
+  if (number < 10) return std::string(kUnits[number - 1]);
+  if (number < 20) return std::string(kTeens[number - 10]);
+  if (number % 10 == 0) return std::string(kRoundTens[number / 10]);
+  std::string unit(kUnits[number % 10 - 1]);
+  unit.front() = static_cast<char>(unit.front() - 'A' + 'a');
+  return Format("%s-%s", kTens[number / 10], unit);
+}
 
 int RollBookFormat(Game& game) {
   const bool oldSchool = game.sheet.QuirkCounts[kOldSchoolMentor] > 0;
@@ -46,9 +67,9 @@ int RollNonStandardFormat(Game& game) {
 int RollBookSize(Game& game, int format) {
   return RollKept(game, BookSizeOf, [&](int size) {
     return Format(
-        "Table 7G1: Standard Spell Book Size, Keep your result of: Size (height x width) %s, Base Weight %g lbs., "
+        "Table 7G1: Standard Spell Book Size, Keep your result of: Size (height x width) %s, Base Weight %s lbs., "
         "Encumbrance Modifier x%i?",
-        BookSizes[At(size)].Name, BookBaseWeight(size, format), BookSizes[At(size)].EncumbranceModifier);
+        BookSizes[At(size)].Name, Pounds(BookBaseWeight(size, format)), BookSizes[At(size)].EncumbranceModifier);
   });
 }
 
@@ -56,9 +77,9 @@ int RollBookThickness(Game& game, int format, int size) {
   return RollKept(game, BookThicknessOf, [&](int thickness) {
     const double pages = PagesWeight(thickness, format);
     return Format(
-        "Table 7G2: Standard Spell Book Thickness, Keep your result of: Page Count %i, Weight Modifier +%g lbs. (total "
-        "weight %g lbs.), Thickness %i inches?",
-        BookThicknesses[At(thickness)], pages, BookBaseWeight(size, format) + pages, ThicknessInches(thickness));
+        "Table 7G2: Standard Spell Book Thickness, Keep your result of: Page Count %i, Weight Modifier +%s lbs. (total "
+        "weight %s lbs.), Thickness %i inches?",
+        BookThicknesses[At(thickness)], Pounds(pages), Pounds(BookBaseWeight(size, format) + pages), ThicknessInches(thickness));
   });
 }
 
@@ -71,21 +92,37 @@ bool IsInABook(const Game& game, std::size_t row) {
 /// Known spells that stand in no book yet.
 std::vector<std::size_t> LooseSpells(const Game& game) {
   std::vector<std::size_t> rows;
-  for (std::size_t row = 0; row < kSpellRows && rows.size() < kMostSpellsInBook; ++row) {
+  for (std::size_t row = 0; row < kSpellRows; ++row) {
     if (game.sheet.SpellsKnown[row] > 0 && !IsInABook(game, row)) rows.push_back(row);
   }
   return rows;
 }
 
-/// Writes the spells into the book: names on its list, the pages that each takes, its first and last page.
-void WriteSpells(const Game& game, SpellBook& book, const std::vector<std::size_t>& rows) {
+/// Pages that a known spell takes.
+int PagesOfSpell(const Game& game, std::size_t row) {
   const int perMark = game.sheet.QuirkCounts[kLargeHandwriting] > 0 ? 2 : 1;
-  const bool onlyCantrips = std::ranges::all_of(rows, [](std::size_t row) { return row < kCantripRows; });
-  book.Name = onlyCantrips ? "Cantrips" : "First Spellbook";
+  return SaturateToInt(std::int64_t{game.sheet.SpellsKnown[row]} * perMark);
+}
+
+/// How many of the spells, from the first on, go into an empty book: as many as its list holds and, of a standard book,
+/// its pages. A spell that no book could hold has one to itself.
+std::size_t SpellsThatFit(const Game& game, const SpellBook& book, std::span<const std::size_t> rows) {
+  const bool hasPages = book.FormatIndex != kNonStandardFormat;
+  std::int64_t left = book.PageCount;
+  std::size_t count = 0;
+  for (; count < std::min(rows.size(), kMostSpellsInBook); ++count) {
+    left -= PagesOfSpell(game, rows[count]);
+    if (hasPages && left < 0) break;
+  }
+  return std::max<std::size_t>(count, 1);
+}
+
+/// Writes the spells into the book: names on its list, the pages that each takes, its first and last page.
+void WriteSpells(const Game& game, SpellBook& book, std::span<const std::size_t> rows) {
   book.FirstPage = 1;
   int page = 1;
   for (std::size_t i = 0; i < rows.size(); ++i) {
-    const int pages = SaturateToInt(std::int64_t{game.sheet.SpellsKnown[rows[i]]} * perMark);
+    const int pages = PagesOfSpell(game, rows[i]);
     book.Pages[i] = game.SpellTable[rows[i]].Name.View();
     book.PageFlags[i] = page;
     book.SpellRows[rows[i]] = pages;
@@ -93,6 +130,25 @@ void WriteSpells(const Game& game, SpellBook& book, const std::vector<std::size_
     page = AddSaturated(page, pages);
   }
   book.LastPage = page - 1;
+}
+
+/// Writes the spells into the first book and, when it is full, into further ones of the same make in the places that no
+/// book has taken.
+void FillBooks(Game& game, std::span<const std::size_t> rows) {
+  auto& books = game.sheet.SpellBooks;
+  const SpellBook blank = books[0];
+  const bool onlyCantrips = std::ranges::all_of(rows, [](std::size_t row) { return row < kCantripRows; });
+  std::size_t number = 0;
+  for (std::size_t place = 0; place < kSpellBooks && !rows.empty(); ++place) {
+    SpellBook& book = books[place];
+    if (place > 0 && !book.Name.Empty()) continue;
+    book = blank;
+    ++number;
+    book.Name = number == 1 && onlyCantrips ? "Cantrips" : Format("%s Spellbook", Ordinal(number));
+    const std::size_t count = SpellsThatFit(game, book, rows);
+    WriteSpells(game, book, rows.first(count));
+    rows = rows.subspan(count);
+  }
 }
 
 void WriteStandardBook(SpellBook& book, int format, int size, int thickness) {
@@ -103,7 +159,7 @@ void WriteStandardBook(SpellBook& book, int format, int size, int thickness) {
   book.ThicknessIndex = thickness;
   book.PageCount = BookThicknesses[At(thickness)];
   book.ThicknessText = Format("%i inches", ThicknessInches(thickness));
-  book.WeightText = Format("%g lbs.", BookBaseWeight(size, format) + PagesWeight(thickness, format));
+  book.WeightText = Format("%s lbs.", Pounds(BookBaseWeight(size, format) + PagesWeight(thickness, format)));
   book.EncumbranceText = Format("x%i", BookSizes[At(size)].EncumbranceModifier);
 }
 
@@ -159,7 +215,7 @@ void MakeFirstSpellBook(Game& game) {
     ClearSpellBook(game, 0);
     WriteStandardBook(book, format, size, thickness);
   }
-  WriteSpells(game, book, rows);
+  FillBooks(game, rows);
 }
 
 void ClearSpellBook(Game& game, std::size_t book) {

@@ -1,0 +1,27 @@
+#include "dice/building_points.h"
+
+namespace veld {
+
+namespace {
+
+constexpr std::string_view kRerollCaption = "Reroll costs 1 BP";
+
+}  // namespace
+
+bool CanPay(const Game& game, float charge) {
+  return Reaches(game.run.BuildingPoints, charge);
+}
+
+bool Pay(Game& game, float charge) {
+  if (!CanPay(game, charge)) return false;
+  game.run.BuildingPoints -= charge;
+  return true;
+}
+
+bool AskKeep(Game& game, std::string_view question) {
+  if (!CanPay(game) || game.platform.AskYesNo(kRerollCaption, question) != Answer::No) return true;
+  Pay(game);
+  return false;
+}
+
+}  // namespace veld
