@@ -168,7 +168,9 @@ TEST_F(DiceTest, TypedDiceAreAskedForUntilTheyArePossible) {
   ExpectTyped("40");  // no upper bound where Honor may raise the dice
   EXPECT_EQ(RollHonorDice(*game, 6, 3), 40);
   ExpectTyped("5");
+  game->dice.RollContextText = "INT 2";
   EXPECT_EQ(RollPenetratingDice(*game, 6, 1), 5);
+  EXPECT_EQ(game->dice.RollContextText, "") << "as after a roll of the program's";
 
   game->sheet.Constitution.Whole = 25;
   game->sheet.HonorCategory = "Great";
@@ -177,6 +179,12 @@ TEST_F(DiceTest, TypedDiceAreAskedForUntilTheyArePossible) {
 
   game->dice.DiceLabel = "labelled";
   EXPECT_GE(RollHonorDice(*game, 6, 1), 2) << "a labelled roll is not asked for";
+  const std::size_t asked = platform.forms.size();
+  game->sheet.HonorCategory.Clear();
+  EXPECT_EQ(RollDice(*game, 1, 3) + RollHonorDice(*game, 1, 3) + RollPenetratingDice(*game, 1, 1) +
+                RollPenetratingDicePlus(*game, 1, 1, 0) + RollHitPointDice(*game, 1, 1),
+            3 + 3 + 1 + 1 + 4);
+  EXPECT_EQ(platform.forms.size(), asked) << "a die of one side needs no throw";
 }
 
 TEST_F(DiceTest, RollForMeAndTurnThisOffLeaveTheRollToTheProgram) {
@@ -200,14 +208,14 @@ TEST_F(DiceTest, AKeptRollCostsABuildingPointForEachRefusal) {
   constexpr ControlTemplate kControls[] = {ResultAt(0, 0, kBuildingPointsControl, 8), ButtonAt(1, 0, kOk, "OK")};
   Form window(FormTemplate{"Window", "Window", kControls});
   game->dice.RollContextText = "You are to roll percentile dice.";
-  AskKeepRoll(*game, window, 100, 1);
-  EXPECT_TRUE(platform.questions.empty()) << "without BP nothing is asked";
-
   game->run.BuildingPoints = 0.5F;
+  AskKeepRoll(*game, window, 100, 1);
+  EXPECT_TRUE(platform.questions.empty()) << "half a BP pays for nothing";
+
+  game->run.BuildingPoints = 1.5F;
   platform.ExpectQuestion("Reroll costs 1 BP: You are to roll percentile dice. - Keep your result of - ", Answer::No);
   AskKeepRoll(*game, window, 100, 1);
-  EXPECT_EQ(game->run.BuildingPoints, -0.5F);
-  EXPECT_EQ(window.Text(kBuildingPointsControl), "-0.5");
+  EXPECT_EQ(window.Text(kBuildingPointsControl), "0.5");
 
   game->run.BuildingPoints = 3;
   platform.ExpectQuestion("Keep", Answer::Closed);

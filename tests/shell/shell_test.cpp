@@ -150,6 +150,9 @@ TEST_F(ShellTest, LeftOverPointsBecomeGoldFractionsIncluded) {
   EXPECT_EQ(game->run.BuildingPoints, 0);
   EXPECT_TRUE(
       platform.Showed("You started with 100 GP. Your 3.5 BPs have been cashed in. You now have 187 gold."));
+  game->run.BuildingPoints = -0.5F;
+  CashInBuildingPoints(*game);
+  EXPECT_EQ(game->sheet.GoldPieces, 187) << "a debt takes no gold";
   game->run.BuildingPoints = 1e30F;
   CashInBuildingPoints(*game);
   EXPECT_GT(game->sheet.GoldPieces, 0) << "gold stays in its field";

@@ -113,6 +113,7 @@ TEST_F(SideFiles, AShortCustomEquipmentFileIsKeptBeforeItIsOverwritten) {
 TEST_F(SideFiles, SpellsAreTokensWithBlanksWhereTheFileHasUnderscores) {
   game->sheet.SpellsKnown[7] = 1;
   WriteText("spells.vld",
+            "\xEF\xBB\xBF"  // a byte order mark
             "Grey_Wall_ Conjuration/Summoning Con_jurer\n10_ft. V,S,M 1_turn 3 One_wall Neg. 4\tMagic-user_Level_4 "
             "TG12\r\n"
             "Next T S R C D C A S 12 Cat Very_long_source\n" + std::string(60, 'n') + " Type");

@@ -3,8 +3,6 @@
 #include "dice/building_points.h"
 #include "rules/race_table.h"
 #include "steps/quirks/quirk_effects.h"
-#include "steps/quirks/quirk_effects.h"
-#include "steps/race/race_choice.h"
 #include "steps/race/race_choice.h"
 
 namespace veld {

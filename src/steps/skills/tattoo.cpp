@@ -5,7 +5,6 @@
 #include "dice/building_points.h"
 #include "rules/race_table.h"
 #include "steps/abilities/ability_effects_apply.h"
-#include "steps/abilities/ability_effects_apply.h"
 #include "text/format.h"
 #include "text/numbers.h"
 #include "text/search.h"

@@ -55,10 +55,11 @@ std::size_t Index(int number) {
 
 /// All that hangs on levels, as far as it may be compared from one run to another.
 struct Picture {
-  std::array<std::int64_t, kAbilityCount> Abilities{};  // in percentile points: 13/100 is 14/0
+  std::array<AbilityScore, kAbilityCount> Abilities{};
   int HitDice = 0;
   int HitPoints = 0;
   int Slots = 0;
+  std::array<int, 4> Barbarian{};
   std::array<int, kThiefAbilities> ThiefTotals{};
   std::array<int, kSaves> Saves{};
   std::string Levels;
@@ -67,15 +68,21 @@ struct Picture {
   bool operator==(const Picture&) const = default;
 };
 
+/// A score in percentile points: 13/100 is 14/0.
+std::int64_t PointsOf(AbilityScore score) {
+  return std::int64_t{score.Whole} * 100 + score.Percentile;
+}
+
 Picture PictureOf(const CharacterSheet& sheet) {
   Picture picture;
   for (int ability = 0; ability < kAbilityCount; ++ability) {
-    const AbilityScore& score = AbilityAt(sheet, ability);
-    picture.Abilities[Index(ability)] = std::int64_t{score.Whole} * 100 + score.Percentile;
+    picture.Abilities[Index(ability)] = AbilityAt(sheet, ability);
   }
   picture.HitDice = sheet.HitDiceCount;
   picture.HitPoints = sheet.HitPoints;
   picture.Slots = sheet.ProficiencySlots;
+  picture.Barbarian = {sheet.BarbarianClimb, sheet.BarbarianBackProtection, sheet.BarbarianHide,
+                       sheet.BarbarianDetectIllusion};
   for (std::size_t i = 0; i < kThiefAbilities; ++i) picture.ThiefTotals[i] = ThiefAbilityAt(sheet, i)[kLevelSum];
   for (std::size_t i = 0; i < kSaves; ++i) picture.Saves[i] = SaveAt(sheet, i)[kBestSave];
   picture.Levels = sheet.LevelText.View();
@@ -141,7 +148,7 @@ void ExpectLevels(const CharacterSheet& sheet, const Picture& picture, int row, 
   EXPECT_EQ(picture.Levels, Format("%i", level));
   for (int a = 0; a < kAbilityCount; ++a) {
     const int lost = row == 13 && a == kWisdom ? 100 : 0;  // the battle mage's Wisdom
-    EXPECT_EQ(picture.Abilities[Index(a)], 1395 - lost + gains[Index(a)]) << AbilityName(a);
+    EXPECT_EQ(PointsOf(picture.Abilities[Index(a)]), 1395 - lost + gains[Index(a)]) << AbilityName(a);
     EXPECT_EQ(LevelGainAt(sheet, a)[Index(row)][kLevelSum], gains[Index(a)]);
   }
   for (std::size_t i = 0; i < kThiefAbilities; ++i) {
@@ -231,7 +238,7 @@ TEST_F(RecalculationTest, TheShamansLadderDips) {
   for (const auto& [experience, level] : {std::pair{1501, 1}, {3001, 2}, {6000, 2}, {6001, 4}, {29001, 5}}) {
     EXPECT_EQ(EarnedLevel(68, static_cast<float>(experience)), level) << experience;
   }
-  EXPECT_EQ(EarnedLevel(3, -1), 0);
+  for (int row = 1; row <= kLastSingleClass; ++row) EXPECT_EQ(EarnedLevel(row, -1e30F), 1) << row;
   EXPECT_EQ(EarnedLevel(3, 1e30F), 98);
   EXPECT_EQ(EarnedLevel(198, 5), 0) << "a combination has no ladder";
 }
@@ -335,13 +342,41 @@ TEST_F(RecalculationTest, TheBestSaveAndTheMostSlotsOfAllClassesCount) {
   EXPECT_EQ(Sheet().SaveRod[kBestSave], 14);
   EXPECT_EQ(Sheet().SavePoison[3], 15);
   EXPECT_EQ(Sheet().ProficiencySlots, 4);
-  Sheet().ClassExperience[1] = -5;  // the cleric is given up
+  Sheet().ClassExperience[1] = -5;
+  RecomputeFromClasses(*game);
+  EXPECT_EQ(Sheet().LevelText, "1/1") << "a class is not lost by its experience";
+  Sheet().ClassLevels[1] = 0;  // the cleric is given up
+  Sheet().ClassName = "Fighter";
   RecomputeFromClasses(*game);
   EXPECT_EQ(Sheet().ClassName, "Fighter");
   EXPECT_EQ(Sheet().SavePoison[kBestSave], 15);
-  EXPECT_EQ(Sheet().ClassProficiencySlots[1], 0);
   ComputeSaves(*game, 199);
   EXPECT_EQ(Sheet().SavePoison[199], 15);
+}
+
+TEST_F(RecalculationTest, AnAbilityComesBackAsItWasWhenALevelIsTakenBack) {
+  for (const int percentile : {0, 1, 50, 99, 100}) {
+    Restart("Human", "Male", "Fighter");
+    for (int a = 0; a < kAbilityCount; ++a) AbilityAt(Sheet(), a) = {13, percentile};
+    const Picture first = Reach(3, 1);
+    for (int level = 2; level <= 12; ++level) Reach(3, level);
+    EXPECT_EQ(Reach(3, 1).Abilities, first.Abilities) << percentile;
+    EXPECT_EQ(first.Abilities[kStrength], (AbilityScore{13, percentile}));
+  }
+}
+
+TEST_F(RecalculationTest, WhatReadsAnAbilitySeesItWithItsGains) {
+  Restart("Human", "Male", "Barbarian");
+  for (int a = 0; a < kAbilityCount; ++a) AbilityAt(Sheet(), a) = {16, 95};
+  Reach(4, 16);
+  EXPECT_GT(Sheet().Dexterity.Whole, 16);
+  EXPECT_EQ(Sheet().BarbarianHide, 5 * 16 + 10 + Sheet().ThiefHideInShadows[0]);
+  EXPECT_NE(Sheet().ThiefHideInShadows[0], 0);
+
+  Restart("Human", "Male", "Magic-User");
+  Sheet().Intelligence.Percentile = 100;
+  Reach(12, 8);  // all levels at once
+  EXPECT_EQ(game->run.SpellListIndex, 28);
 }
 
 TEST_F(RecalculationTest, BarbariansBerserkersAndMonksHaveTheirOwn) {
@@ -417,6 +452,11 @@ TEST_F(RecalculationTest, MovementFollowsRaceAndLostLegs) {
   Sheet().Gender = "Female";
   ComputeMovement(*game);
   EXPECT_EQ(Sheet().BaseMovement, 11) << "never found: it stays";
+  Sheet().BaseMovement = 12;
+  Sheet().MovementLight = Sheet().MovementModerate = Sheet().MovementHeavy = 0;
+  ComputeMovement(*game);
+  EXPECT_EQ((std::array{Sheet().MovementLight, Sheet().MovementModerate, Sheet().MovementHeavy}),
+            (std::array{9, 6, 3}));
 }
 
 TEST_F(RecalculationTest, TheLastRowsOfTheTableAddTheirGainsOnEveryRun) {
@@ -425,7 +465,7 @@ TEST_F(RecalculationTest, TheLastRowsOfTheTableAddTheirGainsOnEveryRun) {
   RecomputeFromClasses(*game);
   const Picture first = PictureOf(Sheet());
   RecomputeFromClasses(*game);
-  EXPECT_EQ(PictureOf(Sheet()).Abilities[kDexterity] - first.Abilities[kDexterity], Sheet().LevelDexterityGain[116][2]);
+  EXPECT_EQ(PointsOf(Sheet().Dexterity) - PointsOf(first.Abilities[kDexterity]), Sheet().LevelDexterityGain[116][2]);
 }
 
 TEST_F(RecalculationTest, AnyNumbersOfAFileAreTaken) {

@@ -250,6 +250,10 @@ TEST_F(StepNineTest, TakingAfterARaceTakesOverItsClasses) {
 TEST_F(StepNineTest, AHalfOrcWhoTakesAfterTheOrcsKeepsHisOwnClasses) {
   BecomeRace("Half-orc");
   const ClassNumbers own = game->run.ClassAllowed;
+  game->run.BuildingPoints = 29.5F;
+  TakeAfter(*game, "Orc");
+  EXPECT_TRUE(game->sheet.TalentDetailNames[2][0].Empty()) << "too dear";
+  game->run.BuildingPoints = 30;
   TakeAfter(*game, "Orc");
   EXPECT_EQ(game->run.ClassAllowed, own);
   EXPECT_EQ(game->sheet.TalentDetailNames[2][0], "Orc");

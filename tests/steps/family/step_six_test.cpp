@@ -75,10 +75,9 @@ TEST_F(StepSixTest, TheFirstRollIsFreeAndLaterOnesCostOneBP) {
   EXPECT_EQ(BP(), 1.5F);
   Press(kStartingAge, {3});
   EXPECT_EQ(sheet.Age, first + 1);
-  Press(kStartingAge, {2});
-  EXPECT_EQ(BP(), -0.5F) << "half a BP buys a whole roll";
   Press(kStartingAge);
-  EXPECT_EQ(sheet.Age, first);
+  EXPECT_EQ(BP(), 0.5F) << "half a BP buys no roll";
+  EXPECT_EQ(sheet.Age, first + 1);
 
   Press(kHandedness, {12});
   EXPECT_EQ(sheet.Handedness, "Left");

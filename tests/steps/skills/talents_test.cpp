@@ -195,8 +195,8 @@ TEST_F(TalentsTest, ThePageTellsPriceAndRefusalBeforeTheyAreMet) {
   game->run.BowBonusDiscount = 3;
   platform.ExpectForm("Talents", [&](Form& form) {
     EXPECT_EQ(form.Text(kBuildingPoints), "12");
-    EXPECT_TRUE(Holds(form.Items(kOffered), "Elf, High")) << "an item held";
-    EXPECT_EQ(form.Items(kHeld), std::vector<std::string>{"Elf, High"});
+    for (const std::string& line : form.Items(kOffered)) EXPECT_FALSE(Contains(line, "Take After")) << line;
+    EXPECT_EQ(form.Items(kHeld), std::vector<std::string>{"Take After: Elf, High"});
     form.Press(kAdd);
     form.Press(kRemove);
     EXPECT_EQ(BP(), 12.5F) << "nothing is selected";
@@ -219,13 +219,15 @@ TEST_F(TalentsTest, ThePageTellsPriceAndRefusalBeforeTheyAreMet) {
     EXPECT_EQ(form.Text(kNote), "Taking it away gives 3 BP back.");
     form.Press(kRemove);
     EXPECT_EQ(form.Text(kBuildingPoints), "9");
-    ChooseText(form, kHeld, "Elf, High");
+    ChooseText(form, kHeld, "Take After: Elf, High");
+    EXPECT_EQ(form.Text(kNote), "Whom you take after is settled before your class.");
     form.Press(kRemove);
-    EXPECT_EQ(ItemCount(kTakeAfter, 0), 0);
+    EXPECT_EQ(ItemCount(kTakeAfter, 0), 1);
+    EXPECT_FALSE(ChangeTalent(*game, "Take After", 1));
     form.Press(kClose);
   });
   RunTalents(*game);
-  EXPECT_EQ(BP(), 39.5F);
+  EXPECT_EQ(BP(), 9.5F);
 }
 
 /// Seldom looks for what is not there, so that there is something to press on.

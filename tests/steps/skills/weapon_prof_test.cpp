@@ -93,8 +93,11 @@ TEST_F(WeaponProfTest, AProficiencyCostsASlotAndABP) {
   ExpectPurse(19, 1);
   for (const char* lost : {"", "Military Pick", "dagger", "Quick Draw: Nothing"}) EXPECT_FALSE(Add(lost)) << lost;
 
-  BP() = 0;
-  EXPECT_FALSE(Add("Knife")) << "no BP";
+  BP() = 0.5F;
+  EXPECT_FALSE(Add("Knife")) << "too few BP";
+  game->sheet.IsFighterClass = 1;
+  EXPECT_FALSE(Add("Knife")) << "not his first";
+  game->sheet.IsFighterClass = 0;
   BP() = 1;
   for (const int slots : {1, 0, -3}) {
     Slots() = slots;
@@ -263,6 +266,9 @@ TEST_F(WeaponProfTest, MasteryIsForFightersOfTheFifthLevel) {
   EXPECT_FALSE(Master(*game, kDagger, 1));
   ClassLevel(kFighter) = 5;
   EXPECT_TRUE(Master(*game, kDagger, 1));
+  BP() = 0.5F;
+  EXPECT_FALSE(Master(*game, kDagger, 1)) << "the BP do not reach";
+  BP() = 19;
   EXPECT_TRUE(Master(*game, kDagger, 1));
   EXPECT_FALSE(Master(*game, kDagger, 1)) << "the slots are used";
   EXPECT_EQ(Level(kDagger), 4);
@@ -333,10 +339,10 @@ TEST_F(WeaponProfTest, ThePageTakesSpecializesAndMasters) {
     form.Press(kRemoveSpecial);
     EXPECT_EQ(Level(kBattleAxe), 2);
 
-    BP() = 0;
+    BP() = 0.5F;
     form.Type(kSearch, "DAGGER");
     ChooseText(form, kOffered, "Dagger");
-    EXPECT_EQ(form.Text(kNote), "It costs 1 BP, and you have none.");
+    EXPECT_EQ(form.Text(kNote), "It costs 1 BP, and you do not have it.");
     form.Press(kTake);
     EXPECT_EQ(Level(kDagger), 0) << "the page gives no credit, not even to fighters";
     form.Press(kClose);

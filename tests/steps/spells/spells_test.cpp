@@ -240,7 +240,52 @@ TEST_F(SpellsTest, TheFirstBookHoldsTheKnownSpells) {
   platform.ExpectQuestion("Table 7G: Spell Book Format, Keep your result of ", Answer::No);
   MakeFirstSpellBook(*game);
   EXPECT_EQ(game->run.BuildingPoints, 0);
-  EXPECT_FALSE(book.Pages[99].Empty()) << "a hundred spells, no more";
+}
+
+TEST_F(SpellsTest, FullBooksAreFollowedByFurtherOnesOfTheSameMake) {
+  constexpr std::size_t kKnown = 150;
+  constexpr std::size_t kOld = 1;  // a book that he has already
+  game->sheet.QuirkCounts[kLargeHandwriting] = 1;
+  bool hasNonStandard = false;
+  std::size_t mostBooks = 0;
+  for (std::uint32_t seed = 0; seed < 300; ++seed) {
+    game->dice.RandomState = seed * 2'654'435'769U;
+    game->sheet.SpellsKnown.fill(0);
+    for (std::size_t row = 200; row < 200 + kKnown; ++row) {
+      game->sheet.SpellsKnown[row] = row == 300 ? 500 : static_cast<int>(row % 7) + 1;
+    }
+    for (std::size_t place = 0; place < kSpellBooks; ++place) ClearSpellBook(*game, place);
+    game->sheet.SpellBooks[kOld].Name = "Old";
+    MakeFirstSpellBook(*game);
+    const SpellBook& first = game->sheet.SpellBooks[0];
+    const bool isStandard = first.FormatIndex != kNonStandardFormat;
+    hasNonStandard = hasNonStandard || !isStandard;
+    EXPECT_EQ(first.Name, "First Spellbook");
+    EXPECT_EQ(game->sheet.SpellBooks[2].Name, "Second Spellbook") << "a list holds a hundred names";
+    EXPECT_TRUE(game->sheet.SpellBooks[kOld].Pages[0].Empty());
+    std::size_t written = 0;
+    std::size_t books = 0;
+    for (const SpellBook& book : game->sheet.SpellBooks) {
+      if (book.Name.Empty() || book.Name == "Old") continue;
+      ++books;
+      const auto names = std::ranges::count_if(book.Pages, [](const auto& name) { return !name.Empty(); });
+      written += static_cast<std::size_t>(names);
+      EXPECT_TRUE(!isStandard || book.LastPage <= book.PageCount || names == 1) << book.Name.View();
+      EXPECT_EQ(book.FormatName, first.FormatName);
+      EXPECT_EQ(book.ThicknessText, first.ThicknessText);
+    }
+    mostBooks = std::max(mostBooks, books);
+    if (books >= 12) {
+      EXPECT_EQ(game->sheet.SpellBooks[12].Name, "Twelfth Spellbook");
+    }
+    EXPECT_EQ(written, kKnown) << "every spell has its place";
+    const std::string_view weight = first.WeightText;
+    if (const auto point = weight.find('.'); isStandard && point < weight.find(" lbs.")) {
+      EXPECT_LE(weight.find(" lbs.") - point, 3U) << weight;
+    }
+  }
+  EXPECT_TRUE(hasNonStandard);
+  EXPECT_GE(mostBooks, 12U);
 }
 
 TEST_F(SpellsTest, ANonStandardBookCountsPieces) {
