@@ -17,12 +17,18 @@ constexpr std::int64_t kNoUpperBound = std::numeric_limits<std::int64_t>::max();
 /// No run of penetrating dice is longer than this beyond the dice asked for.
 constexpr int kMostPenetrations = 10'000;
 
-/// A label counts from three characters on, but is printed only from four on: one of exactly three is neither logged nor
-/// cleared. A slip of the two length tests that is kept.
-bool HasLabel(const Game& game) { return game.dice.DiceLabel.size() >= 3; }
-bool HasPrintedLabel(const Game& game) { return game.dice.DiceLabel.size() >= 4; }
+/// A label counts from three characters on, but is printed only from four on: one of exactly three is neither logged
+/// nor cleared. A slip of the two length tests that is kept.
+bool HasLabel(const Game& game) {
+  return game.dice.DiceLabel.size() >= 3;
+}
+bool HasPrintedLabel(const Game& game) {
+  return game.dice.DiceLabel.size() >= 4;
+}
 
-bool IsRollable(int sides, int count) { return sides >= 1 && count >= 1; }
+bool IsRollable(int sides, int count) {
+  return sides >= 1 && count >= 1;
+}
 
 /// What Honor adds to each die: 1, -1 or 0.
 int HonorPerDie(const Game& game) {
@@ -33,7 +39,9 @@ int HonorPerDie(const Game& game) {
 }
 
 /// The player types what his dice show; a die of one side shows the same to everybody and is not asked for.
-bool IsTyped(const Game& game, int sides) { return DiceAreTyped(game) && sides > 1; }
+bool IsTyped(const Game& game, int sides) {
+  return DiceAreTyped(game) && sides > 1;
+}
 
 /// Asks for a roll whose prompt stands in DiceLabel; a number typed is logged and final.
 std::optional<int> TypedRoll(Game& game, std::int64_t lowest, std::int64_t highest) {
@@ -44,7 +52,9 @@ std::optional<int> TypedRoll(Game& game, std::int64_t lowest, std::int64_t highe
   return SaturateToInt(typed);
 }
 
-bool IsLogged(const Game& game) { return game.dice.LogMode != DiceLogMode::Off; }
+bool IsLogged(const Game& game) {
+  return game.dice.LogMode != DiceLogMode::Off;
+}
 
 /// Logs a roll of the program's: under its label, or with the words of `unlabelled`.
 void LogRoll(Game& game, std::string_view unlabelled, int sides, int count, int total) {
@@ -98,16 +108,21 @@ int ConstitutionFloor(int constitution) {
 
 void LogDiceLine(Game& game, std::string_view line) {
   switch (game.dice.LogMode) {
-    case DiceLogMode::EachLine: AppendLine(kDiceLog, line); break;
+    case DiceLogMode::EachLine:
+      AppendLine(kDiceLog, line);
+      break;
     case DiceLogMode::HeldOpen:
       if (game.dice.LogFile < 0) game.dice.LogFile = OpenLog(kDiceLog);
       AppendLine(game.dice.LogFile, line);
       break;
-    case DiceLogMode::Off: break;
+    case DiceLogMode::Off:
+      break;
   }
 }
 
-void LogDiceTotal(Game& game, int total) { LogDiceLine(game, Format("With a Total of: %i", total)); }
+void LogDiceTotal(Game& game, int total) {
+  LogDiceLine(game, Format("With a Total of: %i", total));
+}
 
 int RollDice(Game& game, int sides, int count) {
   if (!IsRollable(sides, count)) return 0;
@@ -141,8 +156,8 @@ int RollPenetratingDice(Game& game, int sides, int count) {
   const int perDie = ScholarPerDie(game) + HonorPerDie(game);
   game.dice.RollContextText.clear();
   if (IsTyped(game, sides) && !HasLabel(game)) {
-    game.dice.DiceLabel = Format(
-        "VELD needs a roll of: %id%i. Penetration is active. Honor category adjustments apply.", count, sides);
+    game.dice.DiceLabel =
+        Format("VELD needs a roll of: %id%i. Penetration is active. Honor category adjustments apply.", count, sides);
     if (const auto typed = TypedRoll(game, count, kNoUpperBound)) return *typed;
   }
   const int result = ThrowPenetrating(game, sides, count, perDie);
@@ -153,9 +168,8 @@ int RollPenetratingDice(Game& game, int sides, int count) {
 int RollPenetratingDicePlus(Game& game, int sides, int count, int plus) {
   if (!IsRollable(sides, count)) return 0;
   if (IsTyped(game, sides) && !HasLabel(game)) {
-    game.dice.DiceLabel =
-        Format("VELD needs a roll of: %id%i+%i. Penetration is active. Honor category adjustments apply.", count, sides,
-               plus);
+    game.dice.DiceLabel = Format(
+        "VELD needs a roll of: %id%i+%i. Penetration is active. Honor category adjustments apply.", count, sides, plus);
     if (const auto typed = TypedRoll(game, count, kNoUpperBound)) return *typed;
   }
   const int result = ThrowPenetrating(game, sides, count, plus + HonorPerDie(game));

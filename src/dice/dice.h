@@ -17,8 +17,8 @@ int RollDice(Game& game, int sides, int count);
 /// for.
 int RollHonorDice(Game& game, int sides, int count);
 
-/// Penetrating dice: a die that comes up at its highest is thrown again and added. Every die after the very first of the
-/// roll counts one less, penetration or not. Honor adjusts each die as in RollHonorDice, and so does the Scholar's
+/// Penetrating dice: a die that comes up at its highest is thrown again and added. Every die after the very first of
+/// the roll counts one less, penetration or not. Honor adjusts each die as in RollHonorDice, and so does the Scholar's
 /// package where RollContextText tells what the roll is for; RollContextText is emptied. A labelled roll is never asked
 /// for.
 int RollPenetratingDice(Game& game, int sides, int count);

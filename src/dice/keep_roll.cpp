@@ -63,7 +63,9 @@ int AskKeepRoll(Game& game, Form& window, int sides, int count) {
   }
 }
 
-TableResult AskKeepTableResult(Game& game, std::string_view table) { return RollOnce(game, table, {}); }
+TableResult AskKeepTableResult(Game& game, std::string_view table) {
+  return RollOnce(game, table, {});
+}
 
 TableResult RollTableUntilRow(Game& game, std::string_view table, const std::function<bool(int)>& isUsable) {
   for (int tries = 0; tries < kMostTableRolls; ++tries) {

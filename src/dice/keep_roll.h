@@ -9,8 +9,8 @@ namespace veld {
 /// The control of a window that shows the Building Points left.
 inline constexpr int kBuildingPointsControl = 50;
 
-/// A roll that the player keeps: while the BP reach for it each result can be refused for 1 BP. The BP left are written to
-/// the window's control 50.
+/// A roll that the player keeps: while the BP reach for it each result can be refused for 1 BP. The BP left are written
+/// to the window's control 50.
 int AskKeepRoll(Game& game, Form& window, int sides, int count);
 
 /// How many of a quirk row the character can hold now: its MaxCount, or 0 once a row held has barred it.

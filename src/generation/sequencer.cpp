@@ -36,7 +36,7 @@ constexpr bool kYouthTablesStand = false;
 
 constexpr float kGoldPerBP = 25.0F;
 constexpr int kLowestFreeWisdom = 6;
-constexpr int kLowestMiddleClass = 7;     ///< SocialClassIndex below this forces a mage into the rustic package
+constexpr int kLowestMiddleClass = 7;  ///< SocialClassIndex below this forces a mage into the rustic package
 constexpr float kRusticPackageBP = 6.0F;
 
 // Rows of ClassTable that the run names.
@@ -46,8 +46,12 @@ constexpr std::size_t kMonk = 9;
 constexpr std::size_t kBattleMage = 13;
 constexpr std::size_t kPaintedMage = 58;
 
-bool HasClass(const Game& game, std::size_t classRow) { return game.sheet.ClassLevels[classRow] > 0; }
-bool IsSingleClass(const Game& game) { return !Contains(game.sheet.LevelText, "/"); }
+bool HasClass(const Game& game, std::size_t classRow) {
+  return game.sheet.ClassLevels[classRow] > 0;
+}
+bool IsSingleClass(const Game& game) {
+  return !Contains(game.sheet.LevelText, "/");
+}
 
 /// Runs a stage if its step is due, with a recovery copy of what the character is by then.
 void RunAt(Game& game, int step, void (*stage)(Game&)) {
@@ -79,8 +83,7 @@ void RunMageYouth(Game& game) {
   game.sheet.UsesMageBackground = AsksForYouth(game, "Hexwright's Almanac");
   if (game.sheet.UsesMageBackground == 0) return;
   if (game.sheet.SocialClassIndex < kLowestMiddleClass) {
-    game.platform.ShowMessage(
-        "Due to your low social class you are being forced into the Rustic Magic-User Package.");
+    game.platform.ShowMessage("Due to your low social class you are being forced into the Rustic Magic-User Package.");
     game.run.BuildingPoints -= kRusticPackageBP;
     game.sheet.PackageName = "Rustic Magic-User";
     ApplyPackage(game);
@@ -138,8 +141,8 @@ void RunBackground(Game& game) {
 
 void TellHonor(Game& game) {
   ComputeHonor(game);
-  game.platform.ShowMessage(Format("Your Honor is %i. This gives you an Honor Die of %i.", game.sheet.Honor,
-                                   game.sheet.HonorDie));
+  game.platform.ShowMessage(
+      Format("Your Honor is %i. This gives you an Honor Die of %i.", game.sheet.Honor, game.sheet.HonorDie));
   game.run.CurrentStep = 12;
 }
 

@@ -30,8 +30,8 @@ std::string_view AbilityName(int ability);
 void NormalizeAbility(AbilityScore& score);
 
 /// The same for a score that holds `gained` points (a loss is below 0) which may be taken back. 13/100 and 14/0 are one
-/// sum: a score that reached it by a gain stands at 13/100, by a loss at 14/0, and one that holds neither any more where
-/// it stood before (`stoodAtZero`). So whatever is given and taken back leaves the score as it was.
+/// sum: a score that reached it by a gain stands at 13/100, by a loss at 14/0, and one that holds neither any more
+/// where it stood before (`stoodAtZero`). So whatever is given and taken back leaves the score as it was.
 void NormalizeGained(AbilityScore& score, std::int64_t gained, bool stoodAtZero);
 
 /// True if the score stands at exactly 0 percent once it is normalized.

@@ -353,9 +353,10 @@ std::int64_t AverageGain(const ClassTotals& totals, int ability) {
   return totals.Classes > 0 ? totals.Gains[Index(ability)] / totals.Classes : 0;
 }
 
-/// Takes out of the abilities what the last run added, and remembers which score stood at 0 without it. Only the classes
-/// of the first 99 rows are taken out, though those of all rows are added: so it stands in the rules, and only the last
-/// rows of the table feel it. Until AddGains the whole scores are those with the gains: new levels are rolled by them.
+/// Takes out of the abilities what the last run added, and remembers which score stood at 0 without it. Only the
+/// classes of the first 99 rows are taken out, though those of all rows are added: so it stands in the rules, and only
+/// the last rows of the table feel it. Until AddGains the whole scores are those with the gains: new levels are rolled
+/// by them.
 void TakeOutGains(Game& game) {
   ClassTotals totals;
   for (std::size_t row = 0; row < kGainRows; ++row) {

@@ -25,17 +25,33 @@ constexpr int kDearestForAbilities = 10;  ///< abilities are for weapons that co
 constexpr int kEmptyPick = -1;
 constexpr const char* kGivingUpIsTooDear = "Giving it up costs 1 BP, and you do not have it.";
 
-std::size_t At(int number) { return static_cast<std::size_t>(number); }
+std::size_t At(int number) {
+  return static_cast<std::size_t>(number);
+}
 
-const ProficiencyRecord& WeaponAt(int row) { return ProficiencyTable()[At(row)]; }
-const ProficiencyRecord& WeaponAbilityAt(int row) { return ProficiencyTable2()[At(row)]; }
-std::string_view WeaponName(int row) { return TrimRight(WeaponAt(row).Name); }
-std::string_view WeaponAbilityName(int row) { return TrimRight(WeaponAbilityAt(row).Name); }
+const ProficiencyRecord& WeaponAt(int row) {
+  return ProficiencyTable()[At(row)];
+}
+const ProficiencyRecord& WeaponAbilityAt(int row) {
+  return ProficiencyTable2()[At(row)];
+}
+std::string_view WeaponName(int row) {
+  return TrimRight(WeaponAt(row).Name);
+}
+std::string_view WeaponAbilityName(int row) {
+  return TrimRight(WeaponAbilityAt(row).Name);
+}
 
-int LevelOf(const Game& game, int row) { return game.sheet.ProficiencyLevels[At(row)]; }
-bool IsHeld(int level) { return level >= ProficiencyMark::Proficient || level == ProficiencyMark::Limited; }
+int LevelOf(const Game& game, int row) {
+  return game.sheet.ProficiencyLevels[At(row)];
+}
+bool IsHeld(int level) {
+  return level >= ProficiencyMark::Proficient || level == ProficiencyMark::Limited;
+}
 
-bool HasLevelIn(const Game& game, std::size_t classRow) { return game.sheet.ClassLevels[classRow] > 0; }
+bool HasLevelIn(const Game& game, std::size_t classRow) {
+  return game.sheet.ClassLevels[classRow] > 0;
+}
 
 /// A row of which more than one step is a matter of taking it again.
 bool CanBeTakenAgain(int row) {
@@ -60,8 +76,8 @@ std::string ObstacleToAddWeapon(const Game& game, int row) {
   return {};
 }
 
-/// BP that giving a weapon up costs; below 0 they come back. The last that a fighter gives up is taken to be the one that
-/// cost no BP, and a half step was no purchase.
+/// BP that giving a weapon up costs; below 0 they come back. The last that a fighter gives up is taken to be the one
+/// that cost no BP, and a half step was no purchase.
 int RemovalCharge(const Game& game, int row) {
   const bool wasFree =
       game.sheet.IsFighterClass == 1 && game.sheet.ProficiencySlotsUsed == ProficiencySlotCost(game, row);
@@ -139,7 +155,9 @@ void RemoveAbility(Game& game, const ProficiencyPlace& place) {
   Charge(game, 1, 1);
 }
 
-bool IsStep(int direction) { return direction == 1 || direction == -1; }
+bool IsStep(int direction) {
+  return direction == 1 || direction == -1;
+}
 
 }  // namespace
 
@@ -263,8 +281,7 @@ bool ClassMayLearn(const Game& game, const ProficiencyPlace& place) {
 
 namespace {
 
-bool IsOffered(const Game& game, const ProficiencyRecord& record, const ProficiencyPlace& place,
-               ProficiencyMode mode) {
+bool IsOffered(const Game& game, const ProficiencyRecord& record, const ProficiencyPlace& place, ProficiencyMode mode) {
   if (record.Name.empty() || !game.IsOn(At(record.Book))) return false;
   return mode == ProficiencyMode::All || ClassMayLearn(game, place);
 }

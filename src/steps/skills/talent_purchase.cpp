@@ -20,10 +20,14 @@ constexpr int kFamilies = static_cast<int>(kDetailRows);
 constexpr int kItems = static_cast<int>(kDetailRows);
 static_assert(kTalentTableRows == static_cast<int>(kTalentRows) && kTalentTable2Rows == kFamilies);
 
-std::size_t At(int number) { return static_cast<std::size_t>(number); }
+std::size_t At(int number) {
+  return static_cast<std::size_t>(number);
+}
 
 /// The name without the blanks that some have at their end.
-std::string_view NameOf(const TalentPlace& place) { return TrimRight(TalentAt(place).Name); }
+std::string_view NameOf(const TalentPlace& place) {
+  return TrimRight(TalentAt(place).Name);
+}
 
 FixedText<100>& ItemName(Game& game, const TalentPlace& place) {
   return game.sheet.TalentDetailNames[At(place.Family)][At(place.Item)];
@@ -32,7 +36,9 @@ std::string_view ItemName(const Game& game, const TalentPlace& place) {
   return game.sheet.TalentDetailNames[At(place.Family)][At(place.Item)];
 }
 
-bool CanBeTakenAgain(std::string_view name) { return Contains(name, "Bonus"); }
+bool CanBeTakenAgain(std::string_view name) {
+  return Contains(name, "Bonus");
+}
 bool IsGivenByRace(const Game& game, const TalentPlace& place) {
   return place.Row >= 0 && TalentCount(game, place) == kTalentOfRace;
 }
@@ -41,7 +47,9 @@ bool IsGivenByRace(const Game& game, const TalentPlace& place) {
 /// the classes are looked up by it.
 constexpr int kTakeAfterFamily = 2;
 
-bool IsTakeAfter(const TalentPlace& place) { return place.Family == kTakeAfterFamily; }
+bool IsTakeAfter(const TalentPlace& place) {
+  return place.Family == kTakeAfterFamily;
+}
 
 /// How an item stands in the lists.
 std::string ShownItem(const Game& game, const TalentPlace& place) {
@@ -93,9 +101,9 @@ bool ChangeLucky(Game& game, const TalentPlace& place, int direction) {
     sides = 0;
     return true;
   }
-  const std::string typed =
-      AskName(game, Format("Choose the number of sides for the die for your %s Talent. Only enter a whole number.",
-                           NameOf(place)));
+  const std::string typed = AskName(
+      game,
+      Format("Choose the number of sides for the die for your %s Talent. Only enter a whole number.", NameOf(place)));
   if (TrimRight(typed).empty()) return false;
   sides = static_cast<int>(ReadEntry(typed));
   return true;
@@ -164,7 +172,7 @@ TalentPlace FindTalent(const Game& game, std::string_view name) {
   if (const int row = FindTalentRow(sought); row >= 0) return {.Row = row};
   const int family = FindTalentFamilyRow(sought);
   return family >= 0 && TrimRight(TalentTable2()[At(family)].Name) == sought ? TalentPlace{.Family = family}
-                                                                            : TalentPlace{};
+                                                                             : TalentPlace{};
 }
 
 int TalentPriceNow(const Game& game, const TalentPlace& place) {

@@ -19,8 +19,9 @@ constexpr std::size_t kMostSpellsInBook = 100;
 
 constexpr std::array<std::string_view, 9> kUnits = {"First", "Second",  "Third",  "Fourth", "Fifth",
                                                     "Sixth", "Seventh", "Eighth", "Ninth"};
-constexpr std::array<std::string_view, 10> kTeens = {"Tenth",     "Eleventh",  "Twelfth",     "Thirteenth", "Fourteenth",
-                                                     "Fifteenth", "Sixteenth", "Seventeenth", "Eighteenth", "Nineteenth"};
+constexpr std::array<std::string_view, 10> kTeens = {"Tenth",      "Eleventh",  "Twelfth",   "Thirteenth",
+                                                     "Fourteenth", "Fifteenth", "Sixteenth", "Seventeenth",
+                                                     "Eighteenth", "Nineteenth"};
 constexpr std::array<std::string_view, 5> kTens = {"", "", "Twenty", "Thirty", "Forty"};
 constexpr std::array<std::string_view, 6> kRoundTens = {"", "", "Twentieth", "Thirtieth", "Fortieth", "Fiftieth"};
 
@@ -33,10 +34,14 @@ int RollKept(Game& game, const IndexOf& indexOf, const Question& question) {
   }
 }
 
-std::size_t At(int index) { return static_cast<std::size_t>(index); }
+std::size_t At(int index) {
+  return static_cast<std::size_t>(index);
+}
 
 /// A weight with at most two decimals.
-std::string Pounds(double weight) { return Format("%g", std::round(weight * 100) / 100); }
+std::string Pounds(double weight) {
+  return Format("%g", std::round(weight * 100) / 100);
+}
 
 /// "First" to "Fiftieth".
 std::string Ordinal(std::size_t number) {
@@ -79,14 +84,14 @@ int RollBookThickness(Game& game, int format, int size) {
     return Format(
         "Table 7G2: Standard Spell Book Thickness, Keep your result of: Page Count %i, Weight Modifier +%s lbs. (total "
         "weight %s lbs.), Thickness %i inches?",
-        BookThicknesses[At(thickness)], Pounds(pages), Pounds(BookBaseWeight(size, format) + pages), ThicknessInches(thickness));
+        BookThicknesses[At(thickness)], Pounds(pages), Pounds(BookBaseWeight(size, format) + pages),
+        ThicknessInches(thickness));
   });
 }
 
 bool IsInABook(const Game& game, std::size_t row) {
-  return std::ranges::any_of(game.sheet.SpellBooks, [&](const SpellBook& book) {
-    return !book.Name.Empty() && book.SpellRows[row] > 0;
-  });
+  return std::ranges::any_of(game.sheet.SpellBooks,
+                             [&](const SpellBook& book) { return !book.Name.Empty() && book.SpellRows[row] > 0; });
 }
 
 /// Known spells that stand in no book yet.
@@ -170,7 +175,9 @@ void WriteNonStandardBook(SpellBook& book, int nonStandard) {
   book.SizeIndex = nonStandard;
 }
 
-int SpellLevels(const SpellRecord& spell) { return std::max(spell.Level, 1); }
+int SpellLevels(const SpellRecord& spell) {
+  return std::max(spell.Level, 1);
+}
 
 /// The lines of a non-standard book: each spell with the pieces it takes.
 std::string PiecesText(const Game& game, const SpellBook& book) {

@@ -9,8 +9,8 @@ inline constexpr std::size_t kLargeHandwriting = 308;  ///< doubles the pages of
 inline constexpr std::size_t kOldSchoolMentor = 324;   ///< moves Table 7G one row down
 
 /// A mage's first spell book: rolls Tables 7G, 7G1 and 7G2 (or 7H for what is no book), each with the offer to re-roll
-/// for 1 BP, and writes the known spells that are in no book into it. What its pages, or its list of 100 names, can't hold
-/// goes into further books of the same make ("Second Spellbook"). With no such spell no book is made.
+/// for 1 BP, and writes the known spells that are in no book into it. What its pages, or its list of 100 names, can't
+/// hold goes into further books of the same make ("Second Spellbook"). With no such spell no book is made.
 void MakeFirstSpellBook(Game& game);
 
 /// Every text empty and every number 0. The books behind stay where they are.

@@ -81,8 +81,12 @@ TEST_F(SpellsTest, EveryClassOfMageIsDealtWhatItIsOwed) {
     int Least;
   };
   const Case cases[] = {
-      {"Magic-User", 12, 3, 3},   {"Battle Mage", 13, 3, 3},       {"Blood Mage", 14, 3, 3},
-      {"Illusionist", 24, 3, 3},  {"Wild Mage", 59, 3, 3},         {"Painted Mage", 58, 4, 4},
+      {"Magic-User", 12, 3, 3},
+      {"Battle Mage", 13, 3, 3},
+      {"Blood Mage", 14, 3, 3},
+      {"Illusionist", 24, 3, 3},
+      {"Wild Mage", 59, 3, 3},
+      {"Painted Mage", 58, 4, 4},
       {"Elementalist: Air", 54, 3, 3},
       {"Standard Specialist: Enchanter", 23, 3, 3},
       {"Double Specialist: Necromancer", 34, 3, 3},
