@@ -33,9 +33,9 @@ struct QuirkWork {
   int Rolls = 0;  ///< made so far
 };
 
-/// From this roll of one work list on, a row that only owes further rolls owes none. Each roll on table 6C that yields
-/// no flaw owes more than one new roll on the average, so that a run of bad luck would have no end. Most players are
-/// done after two dozen rolls, and hardly any makes so many.
+/// From this roll of one work list on, a row that only owes further rolls owes none. Once table 6C has no flaw left to
+/// give, each roll on it owes more than one new roll on the average, so that bad luck would have no end. Most players
+/// are done after two dozen rolls, and hardly any makes so many.
 inline constexpr int kLastOwingRoll = 150;
 
 /// Begins a work list: forgets what quirks earned (rows 0 to 599), lists the 6A tables of the books in use and turns
