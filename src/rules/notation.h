@@ -53,9 +53,9 @@ class NotationReader {
 
   constexpr bool AtEnd() const { return rest.empty(); }
 
- private:
   static constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
+ private:
   constexpr int Digit() {
     if (rest.empty() || !IsDigit(rest.front())) throw "a digit is expected here";
     const int digit = rest.front() - '0';
