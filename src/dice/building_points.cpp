@@ -18,8 +18,10 @@ bool Pay(Game& game, float charge) {
   return true;
 }
 
-bool AskKeep(Game& game, std::string_view question) {
-  if (!CanPay(game) || game.platform.AskYesNo(kRerollCaption, question) != Answer::No) return true;
+bool AskKeep(Game& game, std::string_view question, Answer closed) {
+  if (!CanPay(game)) return true;
+  const Answer answer = game.platform.AskYesNo(kRerollCaption, question);
+  if ((answer == Answer::Closed ? closed : answer) == Answer::Yes) return true;
   Pay(game);
   return false;
 }

@@ -19,7 +19,7 @@ bool CanPay(const Game& game, float charge = 1);
 bool Pay(Game& game, float charge = 1);
 
 /// Asks whether a result of the dice is kept. A refusal takes the 1 BP of a re-roll; a player who can't pay it is not
-/// asked and keeps what the dice gave.
-bool AskKeep(Game& game, std::string_view question);
+/// asked and keeps what the dice gave. `closed` is what the close box stands for.
+bool AskKeep(Game& game, std::string_view question, Answer closed = Answer::Yes);
 
 }  // namespace veld

@@ -1,5 +1,7 @@
 #include "dice/keep_roll.h"
 
+#include <utility>
+
 #include "dice/building_points.h"
 #include "dice/dice.h"
 #include "rules/quirk_table.h"
@@ -57,7 +59,9 @@ int QuirkLimit(const Game& game, int row) {
 
 int AskKeepRoll(Game& game, Form& window, int sides, int count) {
   while (true) {
+    const std::string purpose = std::exchange(game.dice.RollPurpose, game.dice.RollContextText);
     const int result = RollDice(game, sides, count);
+    game.dice.RollPurpose = purpose;
     if (AskKeep(game, Format("%s - Keep your result of - %i", game.dice.RollContextText, result))) return result;
     window.SetText(kBuildingPointsControl, Format("%g", game.run.BuildingPoints));
   }
@@ -74,6 +78,18 @@ TableResult RollTableUntilRow(Game& game, std::string_view table, const std::fun
     if (result.IsRow() && (!isUsable || isUsable(result.Row))) return result;
   }
   return TellNoRow(game, table);
+}
+
+bool IsResultKept(Game& game, std::string_view table, std::string_view result) {
+  return AskKeep(game, Format("%s - Keep your result of %s?", table, result));
+}
+
+bool RollUntilItStands(Game& game, std::string_view table, const std::function<bool()>& tryOnce) {
+  for (int tries = 0; tries < kMostTableRolls; ++tries) {
+    if (tryOnce()) return true;
+  }
+  TellNoRow(game, table);
+  return false;
 }
 
 }  // namespace veld

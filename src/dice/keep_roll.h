@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string_view>
 
 #include "store/game.h"
@@ -35,5 +36,12 @@ TableResult AskKeepTableResult(Game& game, std::string_view table);
 /// Rolls on the table until there is a row that the player keeps and `isUsable` accepts. Ends without one, having told
 /// the player, when nothing can come up or after 10,000 tries.
 TableResult RollTableUntilRow(Game& game, std::string_view table, const std::function<bool(int row)>& isUsable = {});
+
+/// AskKeep with the question of a supplement's table: "<table> - Keep your result of <result>?".
+bool IsResultKept(Game& game, std::string_view table, std::string_view result);
+
+/// Tries a table until it stands, which is when `tryOnce` returns true. False, having told the player that the table
+/// has no result left, after 10,000 tries.
+bool RollUntilItStands(Game& game, std::string_view table, const std::function<bool()>& tryOnce);
 
 }  // namespace veld

@@ -4,14 +4,15 @@ namespace veld {
 
 namespace {
 
-enum : int { kPrompt = 10, kEntry = 3000, kOk = 1, kRollForMeButton = 2, kTurnThisOff = 3043 };
+enum : int { kPrompt = 10, kPurpose = 11, kEntry = 3000, kOk = 1, kRollForMeButton = 2, kTurnThisOff = 3043 };
 
 constexpr ControlTemplate kGetDiceControls[] = {
-    TextAt(0, 0, kPrompt, "", 54, 0),
-    NumberAt(1, 0, kEntry, 10),
-    ButtonAt(2, 0, kOk, "OK", ButtonRole::Default),
-    ButtonAt(2, 0, kRollForMeButton, "&Roll For Me", ButtonRole::Cancel),
-    ButtonAt(2, 0, kTurnThisOff, "&Turn This Off"),
+    TextAt(0, 0, kPurpose, "", 54, 0),
+    TextAt(1, 0, kPrompt, "", 54, 0),
+    NumberAt(2, 0, kEntry, 10),
+    ButtonAt(3, 0, kOk, "OK", ButtonRole::Default),
+    ButtonAt(3, 0, kRollForMeButton, "&Roll For Me", ButtonRole::Cancel),
+    ButtonAt(3, 0, kTurnThisOff, "&Turn This Off"),
 };
 constexpr FormTemplate kGetDice{"GetDice", "Roll Your Own Dice", kGetDiceControls};
 
@@ -19,7 +20,11 @@ constexpr FormTemplate kGetDice{"GetDice", "Roll Your Own Dice", kGetDiceControl
 void RunGetDice(Game& game) {
   Form form(kGetDice);
   game.dice.DiceEntryValue = 0;
-  form.onOpened = [&] { form.SetText(kPrompt, game.dice.DiceLabel); };
+  form.onOpened = [&] {
+    form.SetText(kPurpose, game.dice.RollPurpose);
+    form.SetVisible(kPurpose, !game.dice.RollPurpose.empty());
+    form.SetText(kPrompt, game.dice.DiceLabel);
+  };
   form.onCommand = [&](int id) {
     if (id == kOk) {
       game.dice.DiceEntryValue = form.Number(kEntry);

@@ -2,10 +2,13 @@
 
 #include <algorithm>
 
+#include "backgrounds/mage_school.h"
+#include "backgrounds/military_background.h"
+#include "backgrounds/packages.h"
+#include "backgrounds/seminary.h"
 #include "dice/building_points.h"
 #include "dice/keep_roll.h"
 #include "generation/main_title.h"
-#include "generation/pending_stages.h"
 #include "generation/save_by_extension.h"
 #include "rules/quirk_table.h"
 #include "steps/abilities/step_eight.h"
@@ -30,9 +33,6 @@
 namespace veld {
 
 namespace {
-
-/// The youth tables of the almanacs are not built yet; until they are, nobody is asked whether to use them.
-constexpr bool kYouthTablesStand = false;
 
 constexpr float kGoldPerBP = 25.0F;
 constexpr int kLowestFreeWisdom = 6;
@@ -62,7 +62,7 @@ void RunAt(Game& game, int step, void (*stage)(Game&)) {
 
 /// Whether the player is asked for an almanac's tables: its book is on and the class is of its group.
 bool OffersYouth(const Game& game, std::size_t book, int isOfGroup) {
-  return kYouthTablesStand && game.IsOn(book) && isOfGroup == 1;
+  return game.IsOn(book) && isOfGroup == 1;
 }
 
 /// 1 if the player wants an almanac's tables.

@@ -1,9 +1,5 @@
 #include "rules/class_grants.h"
 
-#include "rules/purchase_rules.h"
-#include "rules/skill_table.h"
-#include "rules/talent_table.h"
-#include "text/numbers.h"
 #include "text/search.h"
 
 namespace veld {
@@ -12,18 +8,14 @@ namespace {
 
 enum class Background { Either, With, Without };
 
-/// What a class grants, '|' between the grants: "Name" buys a skill, "Name=50" sets its mastery, "Name>=50" raises it
-/// to that, "Name+=5" and "Name+1d6" add to it, "Name=INT" starts it at the Intelligence; "pick F4" is a pick of family
-/// 4, "pick F4>=50" one that is raised; "talent Name" gives a talent, "new Family: name" a member of a family. What
-/// stands in brackets is told by GrantKind.
+/// What a class grants.
 struct GrantLine {
   std::string_view ClassName;
   Background When;  ///< with or without the military background tables
-  std::string_view Grants;
+  GrantText Grants;
 };
 
-// A mastery that is set stands before the purchases that ask for it. Names that find no skill ("Social Ettiquette",
-// "SpellCraft", "Horse" and others) have never granted anything and stay as they are.
+// A mastery that is set stands before the purchases that ask for it.
 // clang-format off
 constexpr GrantLine kGrants[] = {
   {"Barbarian", Background::Without,
@@ -34,9 +26,9 @@ constexpr GrantLine kGrants[] = {
    "Makeshift Small Craft, Rowed | Sound Mimicry | Set Snares"},
   {"Knight Errant", Background::Without,
    "Metalworking=50 | Blacksmithing=50 | Blacksmith Tools=50 | Leatherworking=50 | Armorer | pick F19 | "
-   "talent Blind Fighting | Endurance | Gaming | Social Ettiquette | Weaponsmithing"},
+   "talent Blind Fighting | Endurance | Gaming | ?Social Ettiquette | Weaponsmithing"},
   {"Knight Errant", Background::With,
-   "pick F19 | talent Blind Fighting | Endurance | Gaming | Social Ettiquette"},
+   "pick F19 | talent Blind Fighting | Endurance | Gaming | ?Social Ettiquette"},
   {"Bard", Background::Either,
    "pick F4 | [bard language] | Singing | [bard instrument]"},
   {"Ranger", Background::Either,
@@ -51,7 +43,7 @@ constexpr GrantLine kGrants[] = {
   {"Pirate (WMA)", Background::Either,
    "Swimming: Dog Paddle=50 | talent Acrobatic Skill Suite | [pirate skills]"},
   {"Samurai", Background::Either,
-   "Horse | Social Etiquette | [martial discount]"},
+   "?Horse | Social Etiquette | MartialStyleDiscount=1"},
   {"Swashbuckler", Background::Either,
    "Tumbling | Social Etiquette | Snappy Comeback | Snappy Comeback+=5 | Tumbling+=5"},
   {"Soldier", Background::Either,
@@ -65,7 +57,7 @@ constexpr GrantLine kGrants[] = {
   {"Shaman", Background::Either,
    "Religion (general)=50 | Divine Lore | Leadership: Basic"},
   {"Zealot of Aknar (Aknari)", Background::Either,
-   "Identify Animal By Tracks"},
+   "?Identify Animal By Tracks"},
   {"Zealot of Alu (The Gaunt)", Background::Either,
    "Animal Lore=50 | Animal Handling | Religion (general) | Agriculture | [language pick]"},
   {"Zealot of Arnuya (Revenger)", Background::Either,
@@ -92,7 +84,7 @@ constexpr GrantLine kGrants[] = {
   {"Zealot of Gruumsh (Tang)", Background::Either,
    "Dirty Fighting | Eye Gouge"},
   {"Zealot of Hokalas (Keyholder)", Background::Either,
-   "Arcane Lore | Arcane Lore>=50 | SpellCraft"},
+   "Arcane Lore | Arcane Lore>=50 | ?SpellCraft"},
   {"Zealot of Kazaar-Freem (Peacenik)", Background::Either,
    "Parley | Diplomacy"},
   {"Zealot of Kishijoten (Fortune)", Background::Either,
@@ -124,16 +116,16 @@ constexpr GrantLine kGrants[] = {
    "pick F17"},
   {"Zealot of Pangrus (Pangrite)", Background::Either,
    "Military: Battle Sense=50 | Leadership: Basic=50 | Military: Small Unit Tactics=50 | "
-   "Military: Operations=50 | Campaign Logistics | Armor Maintenance | Weapon Maintenance | Attitude Adjustment | "
+   "Military: Operations=50 | ?Campaign Logistics | Armor Maintenance | Weapon Maintenance | Attitude Adjustment | "
    "Cricket-in-the-Pea-Pod | Eye Gouge | Pimp Slap (Wuss Slap)"},
   {"Zealot of Par'Kryus (Wafter)", Background::Either,
-   "Astrology | Weather Sense | Religion (general) | Woodland Lore | Angawa Battle Cry | Crane | Juggling | "
+   "Astrology | Weather Sense | Religion (general) | Woodland Lore | Angawa Battle Cry | Crane | ?Juggling | "
    "pick F12 | Animal Handling | Jumping | pick F19 | pick F18"},
   {"Zealot of P'Rakeke (Purger)", Background::Either,
    "Improved Overbearing | Improved Subdual"},
   {"Zealot of Pyremius (Pyrophiles)", Background::Either,
    "Fire-building | Botany>=50 | Herbalism (Prepare Poison) | Plant Identification: Holistic | Art of Beating | "
-   "Dirty Fighting | Slip Away Into Shadows | Torture | talent Poison Bonus | talent Elemental Resistance: Fire"},
+   "Dirty Fighting | ?Slip Away Into Shadows | Torture | talent Poison Bonus | talent Elemental Resistance: Fire"},
   {"Zealot of Set (Cobra)", Background::Either,
    "Ulterior Motive | talent Blind Fighting"},
   {"Zealot of Shang-Ti (Warder of Order)", Background::Either,
@@ -155,85 +147,11 @@ constexpr GrantLine kGrants[] = {
    "pick F3 | Religion (general) | Maintenance/Upkeep (General) | Shaving/Grooming | Dig Hasty Grave | "
    "Dig Proper Grave | Seduction, Art of | Graceful Entrance/Exit | Social Etiquette"},
   {"Zealot of Zelaur (Natas Gangites)", Background::Either,
-   "Pimp Slap | Religion (general) | Idle Gossip | pick F4 | History: World | pick F1 | pick F3"},
+   "?Pimp Slap | Religion (general) | Idle Gossip | pick F4 | History: World | pick F1 | pick F3"},
   {"Zealot of Zeus (Astrapie)", Background::Either,
    "Leadership: Basic | Weather Sense"},
 };
 // clang-format on
-
-struct BracketWord {
-  std::string_view Word;
-  GrantKind Kind;
-  int Row = -1;
-};
-
-constexpr BracketWord kBracketWords[] = {
-    {"[tracking aside]", GrantKind::TrackingAside},
-    {"[survival pick]", GrantKind::SurvivalPick},
-    {"[language pick]", GrantKind::LanguagePick},
-    {"[bard language]", GrantKind::BardLanguage},
-    {"[bard instrument]", GrantKind::BardInstrument},
-    {"[pirate skills]", GrantKind::PirateSkills},
-    {"[martial discount]", GrantKind::StyleDiscount},
-    {"[first language=", GrantKind::FirstLanguage, SkillFamily::Language},
-};
-
-struct SuffixMark {
-  std::string_view Mark;
-  GrantKind Kind;
-};
-
-// Longer marks before those that they hold.
-constexpr SuffixMark kSuffixMarks[] = {
-    {">=", GrantKind::Raise},           {"+=", GrantKind::Add}, {"+1d", GrantKind::AddDie},
-    {"=INT", GrantKind::FromIntellect}, {"=", GrantKind::Set},
-};
-
-int NumberIn(std::string_view text) {
-  return SaturateToInt(ReadNumberPrefix(text));
-}
-
-bool SkipWord(std::string_view& text, std::string_view word) {
-  if (!text.starts_with(word)) return false;
-  text.remove_prefix(word.size());
-  return true;
-}
-
-ClassGrant ReadBrackets(std::string_view text) {
-  for (const BracketWord& word : kBracketWords) {
-    if (SkipWord(text, word.Word)) return {word.Kind, {}, word.Row, NumberIn(text)};
-  }
-  return {};
-}
-
-ClassGrant ReadPick(std::string_view text) {
-  const std::size_t mark = text.find(">=");
-  const int least = mark == std::string_view::npos ? 0 : NumberIn(text.substr(mark + 2));
-  return {GrantKind::Pick, {}, NumberIn(text), least};
-}
-
-ClassGrant ReadTalent(std::string_view name) {
-  if (Contains(name, ": ")) return {GrantKind::NewTalent, name, FindTalentFamilyRow(name), 1};
-  return {GrantKind::Talent, name, FindTalentRow(name), 1};
-}
-
-ClassGrant ReadSkill(std::string_view text) {
-  for (const SuffixMark& suffix : kSuffixMarks) {
-    const std::size_t at = text.find(suffix.Mark);
-    if (at == std::string_view::npos) continue;
-    const std::string_view name = text.substr(0, at);
-    return {suffix.Kind, name, FindSkillRow(name), NumberIn(text.substr(at + suffix.Mark.size()))};
-  }
-  return {GrantKind::Buy, text};
-}
-
-ClassGrant ReadGrant(std::string_view text) {
-  if (text.starts_with('[')) return ReadBrackets(text);
-  if (SkipWord(text, "pick F")) return ReadPick(text);
-  if (SkipWord(text, "talent ")) return ReadTalent(text);
-  if (SkipWord(text, "new ")) return {GrantKind::NewMember, text, FindSkillFamilyRow(text)};
-  return ReadSkill(text);
-}
 
 bool IsFor(const GrantLine& line, std::string_view className, bool usesFighterBackground) {
   if (line.When == Background::With && !usesFighterBackground) return false;
@@ -244,11 +162,10 @@ bool IsFor(const GrantLine& line, std::string_view className, bool usesFighterBa
 
 }  // namespace
 
-std::vector<ClassGrant> ClassGrants(std::string_view className, bool usesFighterBackground) {
-  std::vector<ClassGrant> grants;
+std::vector<GrantText> ClassGrants(std::string_view className, bool usesFighterBackground) {
+  std::vector<GrantText> grants;
   for (const GrantLine& line : kGrants) {
-    if (!IsFor(line, className, usesFighterBackground)) continue;
-    ForEachName(line.Grants, [&](std::string_view grant) { grants.push_back(ReadGrant(grant)); });
+    if (IsFor(line, className, usesFighterBackground)) grants.push_back(line.Grants);
   }
   return grants;
 }

@@ -28,7 +28,6 @@ constexpr std::array<int, kSpellLevels> kSpellSlots[] = {
 
 // clang-format on
 
-constexpr int kChintzyCantrips = 9;
 
 }  // namespace
 

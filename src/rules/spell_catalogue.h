@@ -58,6 +58,9 @@ bool IsSpellOf(const SpellRecord& spell, int level, std::string_view school);
 /// level 1.
 std::array<int, kSpellLevels> SpellSlotsAtLevel(int level);
 
+/// The cantrips that a Chintzy Mentor teaches at most.
+inline constexpr int kChintzyCantrips = 9;
+
 /// How many cantrips a mage may choose: twice the whole Intelligence; of a Chintzy Mentor a quarter of that, at most 9.
 int CantripAllowance(int intelligence, bool chintzyMentor);
 

@@ -40,6 +40,7 @@ struct DiceState {
   std::uint32_t RandomState = 0;
   std::string DiceLabel;        ///< what the next roll is for; fewer than 3 characters count as none
   std::string RollContextText;  ///< the sentence a prompt shows
+  std::string RollPurpose;      ///< what a player who types the dice is told they are for; may be empty
   std::int64_t DiceEntryValue = 0;
   DiceLogMode LogMode = DiceLogMode::EachLine;
   int LogFile = -1;             ///< while held open

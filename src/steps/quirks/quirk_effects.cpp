@@ -116,15 +116,19 @@ void BarClassesForQuirks(Game& game) {
   }
 }
 
-void ApplyAmputationGains(Game& game) {
+void ApplyArmGain(Game& game) {
   GainForLimbs(game.run.ArmAmputations, game.sheet.Intelligence);
+}
+
+void ApplyLegGain(Game& game) {
   GainForLimbs(game.run.LegAmputations, game.sheet.Strength);
 }
 
 void ApplyQuirkEffects(Game& game) {
   BarClassesForQuirks(game);
   ChangeAbilitiesForQuirks(game);
-  ApplyAmputationGains(game);
+  ApplyArmGain(game);
+  ApplyLegGain(game);
 }
 
 }  // namespace veld

@@ -14,9 +14,9 @@ void ApplyQuirkEffects(Game& game);
 /// Bars the classes that the quirks held close to the character. Whoever sets the class limits anew calls it again.
 void BarClassesForQuirks(Game& game);
 
-/// What a character makes up for by the arms and legs lost in youth: 25 percentile points of Intelligence for one arm,
-/// a whole point for both, and Strength for the legs likewise. Called once after ArmAmputations or LegAmputations was
-/// set.
-void ApplyAmputationGains(Game& game);
+/// What a character makes up for by the arms lost in youth: 25 percentile points of Intelligence for one, a whole point
+/// for both; and by the legs: Strength likewise. Called once when ArmAmputations or LegAmputations has been raised.
+void ApplyArmGain(Game& game);
+void ApplyLegGain(Game& game);
 
 }  // namespace veld

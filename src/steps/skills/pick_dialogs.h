@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "rules/grant_notation.h"
 #include "store/game.h"
 
 namespace veld {
@@ -44,22 +45,6 @@ int* LastDetailMastery(Game& game, int family);
 
 /// The choice of a kind of instrument, of which the player then names one.
 void PickBardInstrument(Game& game);
-
-/// The picks of a proficiency. A shoddy one is marked -10, a missile one comes with its specialization.
-enum class WeaponPick {
-  Melee,
-  MeleeShoddy,
-  Sword,
-  SwordShoddy,
-  Polearm,
-  PolearmShoddy,
-  Lance,
-  CrossbowShoddy,
-  Bow,
-  BowShoddy,
-  Any,
-  Missile,
-};
 
 /// Lets the player pick a proficiency that a class of the character may learn and that is not held. Returns its row, -1
 /// if none was picked, or none could be, as when the proficiency slots are out.
