@@ -122,7 +122,7 @@ int FindQuirkRow(std::string_view name) {
 
 std::string_view ShownQuirkName(int row) {
   if (row < 0 || row >= kQuirkRows) return {};
-  const std::string_view name = QuirkTable()[static_cast<std::size_t>(row)].Name;
+  const std::string_view name = QuirkAt(row).Name;
   const auto isControl = [](char c) { return static_cast<unsigned char>(c) < ' '; };
   return name.substr(0, static_cast<std::size_t>(std::ranges::find_if(name, isControl) - name.begin()));
 }
@@ -141,7 +141,7 @@ int QuirkRowOfRoll(std::string_view table, int roll) {
   const RollTable* found = FindTable(table);
   if (!found || found->Die.Sides == 0) return 0;
   for (int row : found->Rows) {
-    const QuirkRecord& record = QuirkTable()[static_cast<std::size_t>(row)];
+    const QuirkRecord& record = QuirkAt(row);
     if (record.Low <= roll && roll <= record.High) return row;
   }
   return found->Die.Sides;

@@ -38,10 +38,15 @@ struct QuirkRecord {
 };
 
 inline constexpr int kQuirkRows = 700;  ///< length of every array that goes by quirk rows
-inline constexpr int kLastQuirk = 618;  ///< rows 1..618 are told; row 0 and rows 619..699 are blank and match nothing
+inline constexpr int kLastQuirk = 618;  ///< rows 1..618 are filled; row 0 and rows 619..699 are blank and match nothing
 
 /// The catalogue. It is constant: BP and counts that change during a run live with the run.
 const std::array<QuirkRecord, kQuirkRows>& QuirkTable();
+
+/// The record of a row 0 to 699.
+inline const QuirkRecord& QuirkAt(int row) {
+  return QuirkTable()[static_cast<std::size_t>(row)];
+}
 
 /// The first row of exactly this name, blanks at its end included; 0 if there is none.
 int FindQuirkRow(std::string_view name);

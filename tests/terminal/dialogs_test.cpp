@@ -26,6 +26,7 @@
 #include "steps/money/money_bp.h"
 #include "steps/money/step_ten.h"
 #include "steps/quirks/cherry_pick.h"
+#include "steps/quirks/free_quirk.h"
 #include "steps/quirks/quirks_and_flaws.h"
 #include "steps/race/get_name.h"
 #include "steps/race/step_three.h"

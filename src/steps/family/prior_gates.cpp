@@ -6,6 +6,7 @@
 #include "rules/priors_tables.h"
 #include "rules/quirk_table.h"
 #include "steps/family/priors.h"
+#include "steps/quirks/free_quirk.h"
 #include "steps/quirks/quirks_and_flaws.h"
 #include "text/search.h"
 
@@ -293,10 +294,7 @@ bool AwaitsResult(const Game& game, const PriorGates& gates, Prior prior) {
 /// A middle child's personality quirk, with the rolls that it may owe.
 void GrantMiddleChildQuirk(Game& game) {
   game.platform.ShowMessage("You just earned a minor personality quirk!");
-  const int row = RollQuirkRow(game, kTable6H);
-  if (row == 0) return;  // nothing on the table is left
-  ++game.sheet.QuirkCounts[static_cast<std::size_t>(row)];
-  RunQuirksandFlaws(game);
+  if (TakeFreeQuirk(game, kTable6H)) RunQuirksandFlaws(game);
 }
 
 }  // namespace

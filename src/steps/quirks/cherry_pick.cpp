@@ -3,6 +3,9 @@
 #include <algorithm>
 
 #include "dice/keep_roll.h"
+#include "steps/quirks/held_quirks.h"
+#include "steps/quirks/quirk_wipes.h"
+#include "steps/quirks/quirk_work.h"
 #include "steps/quirks/quirks_and_flaws.h"
 #include "text/search.h"
 
@@ -14,17 +17,13 @@ constexpr int kMinorPickBP = 2;
 constexpr int kMajorPickBP = 4;
 constexpr int kMinorPicks = 2;
 constexpr int kMajorPicks = 1;
-constexpr int kMostRolls = 9;
 
-const QuirkRecord& QuirkAt(int row) {
-  return QuirkTable()[static_cast<std::size_t>(row)];
-}
 int PicksOf(const Game& game, int row) {
   return game.run.QuirkPicks[static_cast<std::size_t>(row)];
 }
 
 bool IsRollCount(int number) {
-  return number >= 1 && number <= kMostRolls;
+  return number >= 1 && number <= kMostQuirkRolls;
 }
 
 /// The first minor or major row whose name, as it is shown, stands in a text; 0 if none does.
@@ -99,7 +98,7 @@ constexpr ControlTemplate kCherryPickControls[] = {
     ButtonAt(9, 0, kOk, "OK", ButtonRole::Default),
     ButtonAt(9, 0, kAbort, "&Abort", ButtonRole::Cancel),
 };
-constexpr FormTemplate kCherryPick{"CherryPick", "Quirks and Flaws", kCherryPickControls};
+constexpr FormTemplate kCherryPick{"CherryPick", kQuirksCaption, kCherryPickControls};
 
 /// New items for a box or list; what was selected stays so if it is still there.
 void Refill(Form& form, int id, std::vector<std::string> items) {
@@ -144,7 +143,7 @@ enum class Leave { Abort, Take, Roll, RollThenTake };
 Leave AskLeaveByOk(Game& game, int rolls) {
   if (!IsRollCount(rolls)) return Leave::Take;
   const bool rollsFirst = game.platform.Confirms(
-      "Quirks and Flaws",
+      kQuirksCaption,
       "You have entered a number in the Roll box, Do you wish to roll and ignore any Cherry Picking selections?");
   return rollsFirst ? Leave::RollThenTake : Leave::Take;
 }
@@ -250,10 +249,10 @@ void ClearQuirkPicks(Game& game) {
 }
 
 void ApplyQuirkPicks(Game& game) {
-  for (std::size_t row = 0; row < game.run.QuirkPicks.size(); ++row) {
-    int& count = game.sheet.QuirkCounts[row];
-    count = AddSaturated(count, game.run.QuirkPicks[row]);
-    if (count > 0) BindToBook(game, QuirkTable()[row].Book);
+  for (int row = 0; row < kQuirkRows; ++row) {
+    int& count = HeldCount(game, row);
+    count = AddSaturated(count, PicksOf(game, row));
+    if (count > 0) BindToBook(game, QuirkAt(row).Book);
   }
 }
 

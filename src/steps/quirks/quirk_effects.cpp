@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <numeric>
 
+#include "steps/quirks/held_quirks.h"
 #include "text/numbers.h"
 
 namespace veld {
 
 namespace {
 
-constexpr int kLastPaidQuirk = 599;
 constexpr int kNoDepthPerception = 46;
 
 // The columns are aligned by hand.
@@ -71,17 +71,13 @@ constexpr QuirkAbilityEffect kAbilityEffects[] = {
 /// Quirks that leave one eye: Loss of Eye; Blind, One Eye.
 constexpr int kOneEyed[] = {14, 29};
 
-int HeldTimes(const Game& game, int quirk) {
-  return game.sheet.QuirkCounts[static_cast<std::size_t>(quirk)];
-}
-
 int AddTimes(int score, int change, int times) {
   return SaturateToInt(score + std::int64_t{change} * times);
 }
 
 void ChangeAbilitiesForQuirks(Game& game) {
   for (const QuirkAbilityEffect& effect : kAbilityEffects) {
-    const int held = HeldTimes(game, effect.Quirk);
+    const int held = HeldCount(game, effect.Quirk);
     if (held <= 0) continue;
     AbilityScore& score = AbilityAt(game.sheet, effect.Of);
     const int times = effect.EachTime ? held : 1;
@@ -89,7 +85,7 @@ void ChangeAbilitiesForQuirks(Game& game) {
     score.Percentile = AddTimes(score.Percentile, effect.Percentile, times);
   }
   for (const int quirk : kOneEyed) {
-    if (HeldTimes(game, quirk) > 0) game.sheet.QuirkCounts[kNoDepthPerception] = 1;
+    if (HeldCount(game, quirk) > 0) HeldCount(game, kNoDepthPerception) = 1;
   }
 }
 

@@ -7,7 +7,11 @@
 #include "dice/random.h"
 #include "rules/class_table.h"
 #include "steps/quirks/cherry_pick.h"
+#include "steps/quirks/free_quirk.h"
+#include "steps/quirks/held_quirks.h"
 #include "steps/quirks/quirk_effects.h"
+#include "steps/quirks/quirk_wipes.h"
+#include "steps/quirks/quirk_work.h"
 #include "steps/quirks/quirks_and_flaws.h"
 #include "support/scripted_platform.h"
 
