@@ -54,6 +54,11 @@ struct ClassRecord {
 /// All classes. Row numbers stand in other tables and in files; rows are never reordered.
 const std::array<ClassRecord, kClassRows>& ClassTable();
 
+/// The record of a row 0 to 199.
+inline const ClassRecord& ClassAt(int classRow) {
+  return ClassTable()[static_cast<std::size_t>(classRow)];
+}
+
 /// The row of a class name, with case; -1 if there is none.
 int FindClassRow(std::string_view name);
 

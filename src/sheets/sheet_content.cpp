@@ -11,6 +11,7 @@
 #include "rules/skill_table.h"
 #include "rules/talent_table.h"
 #include "steps/abilities/ability_effects_apply.h"
+#include "steps/classes/class_chain.h"
 #include "steps/classes/class_recalculation.h"
 #include "steps/skills/proficiency_purchase.h"
 #include "steps/skills/tattoo.h"
@@ -848,12 +849,10 @@ void BringUpToDate(Game& game) {
   // the last class rows are added on each run though nobody gained anything: those are taken out again.
   constexpr int kRuns = 2;
   for (int run = 0; run < kRuns; ++run) {
-    const ClassNumbers levels = sheet.ClassLevels;
     const auto scores = Scores(sheet);
     RefreshAbilityEffects(game);
     game.run.SpellsPerLevel = {};  // a class without spells leaves what another character had
-    RecomputeFromClasses(game);
-    if (sheet.ClassLevels != levels) continue;
+    if (RecomputeFromClasses(game)) continue;
     for (int ability = 0; ability < kAbilityCount; ++ability) AbilityAt(sheet, ability) = scores[At(ability)];
     return;
   }

@@ -5,7 +5,11 @@
 
 #include "rules/class_table.h"
 #include "rules/race_table.h"
+#include "steps/classes/class_levels.h"
 #include "steps/classes/class_recalculation.h"
+#include "steps/classes/class_saves.h"
+#include "steps/classes/experience_ladder.h"
+#include "steps/classes/movement.h"
 #include "steps/race/race_choice.h"
 #include "support/scripted_platform.h"
 #include "text/search.h"

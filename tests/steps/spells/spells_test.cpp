@@ -4,7 +4,7 @@
 #include <filesystem>
 
 #include "rules/spell_book_tables.h"
-#include "steps/classes/class_recalculation.h"
+#include "steps/classes/class_chain.h"
 #include "steps/spells/spell_books.h"
 #include "steps/spells/spell_dealing.h"
 #include "steps/spells/spell_selection.h"

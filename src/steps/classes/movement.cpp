@@ -1,0 +1,42 @@
+#include "steps/classes/movement.h"
+
+#include <cmath>
+
+#include "rules/race_table.h"
+
+namespace veld {
+
+namespace {
+
+constexpr std::size_t kBothLegsLost = 37;
+constexpr std::size_t kOneLegLost = 38;
+constexpr std::size_t kPegLegLeft = 198;
+constexpr std::size_t kPegLegRight = 199;
+
+/// The movement of the race after lost legs.
+void SetBaseMovement(CharacterSheet& sheet, const RaceRecord& race) {
+  const int left = sheet.SkillScores[kPegLegLeft];
+  const int right = sheet.SkillScores[kPegLegRight];
+  const bool noPegLeg = std::int64_t{left} + right == 0;
+  int movement = race.BaseMovement;
+  // The loss of one leg slows more than that of both: a slip of the book that is kept.
+  if (sheet.QuirkCounts[kBothLegsLost] == 1 && noPegLeg) movement -= 3;
+  if (sheet.QuirkCounts[kOneLegLost] == 1 && noPegLeg) movement = 4;
+  if (sheet.QuirkCounts[kOneLegLost] == 1 && left > 0 && right > 0) movement -= 1;
+  sheet.BaseMovement = movement;
+  sheet.MovementRow2 = race.SecondMovement;
+}
+
+}  // namespace
+
+void ComputeMovement(Game& game) {
+  CharacterSheet& sheet = game.sheet;
+  if (const int row = FindSearchedRaceRow(sheet.RaceName, sheet.Gender); row >= 0) {
+    SetBaseMovement(sheet, RaceTable()[static_cast<std::size_t>(row)]);
+  }
+  sheet.MovementLight = static_cast<int>(std::lround(sheet.BaseMovement * 0.75));
+  sheet.MovementModerate = sheet.BaseMovement / 2;
+  sheet.MovementHeavy = sheet.BaseMovement / 4;
+}
+
+}  // namespace veld
