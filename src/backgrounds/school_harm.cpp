@@ -45,10 +45,6 @@ int RollSchoolDice(Game& game) {
 
 // --- Quirks and flaws ----------------------------------------------------------------------------------------------
 
-const QuirkRecord& QuirkAt(int row) {
-  return QuirkTable()[static_cast<std::size_t>(row)];
-}
-
 bool CanHold(const Game& game, int row) {
   const int held = game.sheet.QuirkCounts[static_cast<std::size_t>(row)];
   return held >= 0 && held < QuirkLimit(game, row);

@@ -55,8 +55,9 @@ void RollAbilityGains(Game& game, int classRow, int level) {
   const auto gain = [&](int ability) -> int& {
     return LevelGainAt(game.sheet, ability)[Index(classRow)][Index(level)];
   };
-  for (const Ability ability : kRollOrder)
+  for (const Ability ability : kRollOrder) {
     gain(ability) = RollHonorDice(game, ClassAt(classRow).AbilityGainDie[ability], 1);
+  }
   for (const Ability ability : kRollOrder) {
     gain(ability) = AddSaturated(gain(ability), RollHonorDice(game, game.sheet.HonorDie, 1));
   }

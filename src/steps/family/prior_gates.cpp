@@ -15,15 +15,15 @@ namespace veld {
 namespace {
 
 void Open(PriorGates& gates, Prior prior) {
-  gates[prior] = 1;
+  gates[prior] = PriorGate::Open;
 }
 
-void Close(PriorGates& gates, std::initializer_list<Prior> priors, int value = 0) {
-  for (const Prior prior : priors) gates[prior] = value;
+void Close(PriorGates& gates, std::initializer_list<Prior> priors, PriorGate closed = PriorGate::Closed) {
+  for (const Prior prior : priors) gates[prior] = closed;
 }
 
 bool IsOpen(const PriorGates& gates, Prior prior) {
-  return gates[prior] == 1 || (prior == kStepParentCheck && gates[prior] > 0);
+  return gates[prior] == PriorGate::Open || gates[prior] == PriorGate::OpenForBP;
 }
 
 // --- The results --------------------------------------------------------------------------------------------------
@@ -180,7 +180,7 @@ void MoveAfterFatherQuality(Rolled rolled, PriorGates& gates) {
 
 void MoveAfterHeritage(PriorGates& gates) {
   Close(gates, {kLegitimacy, kIllegitimacyNature});
-  Close(gates, {kFatherStatus, kMotherStatus, kFatherQuality, kMotherQuality}, 2);
+  Close(gates, {kFatherStatus, kMotherStatus, kFatherQuality, kMotherQuality}, PriorGate::ClosedForGood);
   Open(gates, kSiblingNumber);
 }
 
@@ -253,24 +253,18 @@ bool MayHaveStepParent(const Game& game) {
 
 /// Free for the one parent that the first press looks for, 1 BP for each parent looked for later.
 void CheckStepParents(Game& game, PriorGates& gates) {
-  int& presses = gates[kStepParentCheck];
+  PriorGate& gate = gates[kStepParentCheck];
   const auto needsFather = [&] { return MayHaveStepParent(game.sheet.FatherPresence); };
   const auto needsMother = [&] { return MayHaveStepParent(game.sheet.MotherPresence); };
-  const auto checkFather = [&] {
-    GenerateStepFather(game);
-    ++presses;
-  };
-  const auto checkMother = [&] {
-    GenerateStepMother(game);
-    ++presses;
-  };
-  if (presses > 1) {
-    if (needsFather() && Pay(game)) checkFather();
-    if (needsMother() && Pay(game)) checkMother();
+  if (gate == PriorGate::OpenForBP) {
+    if (needsFather() && Pay(game)) GenerateStepFather(game);
+    if (needsMother() && Pay(game)) GenerateStepMother(game);
   } else if (needsFather()) {
-    checkFather();
+    GenerateStepFather(game);
+    gate = PriorGate::OpenForBP;
   } else if (needsMother()) {
-    checkMother();
+    GenerateStepMother(game);
+    gate = PriorGate::OpenForBP;
   }
   Close(gates, {kIllegitimacyNature, kFatherStatus, kMotherStatus});
   Open(gates, kMotherQuality);
@@ -280,7 +274,7 @@ void CheckStepParents(Game& game, PriorGates& gates) {
 bool AwaitsResult(const Game& game, const PriorGates& gates, Prior prior) {
   switch (prior) {
     case kStepParentCheck:
-      return gates[prior] == 1 && MayHaveStepParent(game);
+      return gates[prior] == PriorGate::Open && MayHaveStepParent(game);
     // A race that the tables do not find stays at age and height 0: the first press shows in the gate behind.
     case kStartingAge:
       return !IsOpen(gates, kHandedness);

@@ -26,9 +26,14 @@ enum Prior : std::size_t {
   kPriorCount,
 };
 
-/// Which tables can be rolled: 1 open, 0 closed, 2 closed for good. The step parent check counts its presses: it is
-/// open while above 0, and free only at 1.
-using PriorGates = std::array<int, kPriorCount>;
+/// Whether a table can be rolled.
+enum class PriorGate {
+  Closed,
+  Open,
+  OpenForBP,      ///< of the step parent check alone: each parent that is looked for costs 1 BP
+  ClosedForGood,  ///< of the parents' tables once the family's heritage is reached
+};
+using PriorGates = std::array<PriorGate, kPriorCount>;
 
 /// Starts Step 6: only Starting Age is open; the texts of the step parent and of the illegitimacy are "Unknown".
 PriorGates OpenPriors(Game& game);

@@ -45,7 +45,7 @@ class StepSixTest : public ::testing::Test {
   /// Takes the gates to Circumstance of Birth with every table before it rolled.
   void ReachBirth() {
     gates = {};
-    gates[kLegitimacy] = 1;
+    gates[kLegitimacy] = PriorGate::Open;
     game->sheet.SocialClassIndex = 8;
   }
 
@@ -81,12 +81,12 @@ TEST_F(StepSixTest, TheFirstRollIsFreeAndLaterOnesCostOneBP) {
 
   Press(kHandedness, {12});
   EXPECT_EQ(sheet.Handedness, "Left");
-  EXPECT_EQ(gates[kStartingAge], 0);
+  EXPECT_EQ(gates[kStartingAge], PriorGate::Closed);
 }
 
 TEST_F(StepSixTest, AnElfPaysForAHandThatNeverChanges) {
   sheet.RaceName = "Elf, Drow";
-  gates[kHandedness] = 1;
+  gates[kHandedness] = PriorGate::Open;
   BP() = 1;
   Press(kHandedness);
   Press(kHandedness);
@@ -95,13 +95,13 @@ TEST_F(StepSixTest, AnElfPaysForAHandThatNeverChanges) {
 }
 
 TEST_F(StepSixTest, APressOfHeightFreesTheWeightEvenWithoutBP) {
-  gates[kHeight] = 1;
+  gates[kHeight] = PriorGate::Open;
   player.thrower = [](int, int count) { return count; };
   Press(kHeight);
   Press(kWeight);
   const int height = sheet.HeightInches;
   const int weight = sheet.WeightLbs;
-  gates[kHeight] = 1;  // Weight has closed it
+  gates[kHeight] = PriorGate::Open;  // Weight has closed it
   player.thrower = [](int sides, int count) { return sides * count; };
   Press(kHeight);
   EXPECT_EQ(sheet.HeightInches, height);
@@ -124,7 +124,7 @@ TEST_F(StepSixTest, ARaceTheTablesDoNotFindGetsThroughAllTheSame) {
 }
 
 TEST_F(StepSixTest, ASlaveIsRolledAgainBehindADieThatIsThrownAway) {
-  gates[kSocialClass] = 1;
+  gates[kSocialClass] = PriorGate::Open;
   Press(kSocialClass, {1, 20, 5});
   EXPECT_EQ(sheet.SocialClassName, "Slave Class, runaway slave");
   EXPECT_EQ(sheet.SocialClassIndex, 1);
@@ -137,7 +137,7 @@ TEST_F(StepSixTest, TheModifiersOfTheRaceAreAddedToTheDice) {
   game->run.LegitimacyModifier = 50;
   game->run.BirthModifier = -90;
   game->run.SocialClassModifier = 99;
-  gates[kSocialClass] = 1;
+  gates[kSocialClass] = PriorGate::Open;
   Press(kSocialClass, {1, 1});
   EXPECT_EQ(sheet.SocialClassIndex, 12);
   Press(kLegitimacy, {41});
@@ -241,12 +241,12 @@ TEST_F(StepSixTest, WhatTheMotherOwesIsTakenAtTheFathersQuality) {
   EXPECT_TRUE(player.Showed("You just earned a Major quirk"));
   EXPECT_EQ(player.forms, (std::vector<std::string>{"MajorQuirk", "QuirksandFlaws"}));
   EXPECT_EQ(BP(), 0);
-  EXPECT_EQ(gates[kFatherQuality], 2);
+  EXPECT_EQ(gates[kFatherQuality], PriorGate::ClosedForGood);
 }
 
 TEST_F(StepSixTest, SiblingsDecideWhetherThereIsAnOrderOfBirth) {
   gates = {};
-  gates[kSiblingNumber] = 1;
+  gates[kSiblingNumber] = PriorGate::Open;
   sheet.BirthCircumstance = "Legitimate";
   BP() = 3;
   Press(kSiblingNumber, {98, 4});
@@ -276,7 +276,7 @@ TEST_F(StepSixTest, SiblingsDecideWhetherThereIsAnOrderOfBirth) {
 
 TEST_F(StepSixTest, AMiddleChildEarnsAPersonalityQuirk) {
   sheet.SiblingCount = 2;
-  gates[kBirthOrder] = 1;
+  gates[kBirthOrder] = PriorGate::Open;
   Press(kBirthOrder, {66});
   EXPECT_EQ(sheet.BirthOrder, "Middle born (2nd)");
   game->RuleSwitches[kRollYourOwnDice] = 0;
@@ -372,8 +372,6 @@ struct PriorState {
 
 PriorState TakeState(const Sheet& sheet, const PriorGates& gates) {
   PriorState state{gates, {}, {}};
-  // How often the step parent check was pressed beyond the first makes no difference.
-  state.Gates[kStepParentCheck] = std::min(gates[kStepParentCheck], 2);
   for (std::size_t i = 0; i < std::size(kNumbers); ++i) state.Numbers[i] = std::clamp(sheet.*kNumbers[i], -1, 2);
   for (std::size_t i = 0; i < 3; ++i) state.Numbers[i] = std::min(state.Numbers[i], 1);
   std::size_t next = 0;
@@ -482,7 +480,7 @@ class PriorWalk {
 
   void LeaveState(std::size_t from, float bp) {
     for (std::size_t prior = 0; prior < kPriorCount; ++prior) {
-      if (states[from].Gates[prior] == 0) continue;
+      if (states[from].Gates[prior] == PriorGate::Closed) continue;
       choices.clear();
       do {
         thrown = 0;
