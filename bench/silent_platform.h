@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/form.h"
+#include "platform/main_window.h"
 #include "platform/platform.h"
 
 namespace veld {
@@ -25,7 +27,8 @@ class SilentPlatform : public Platform {
   void DoShowMessage(const std::string&, const std::string&) override {}
   Answer DoAskYesNo(const std::string&, const std::string&) override { return Answer::Yes; }
   std::optional<std::string> DoAskOpenPath(const std::string&, std::span<const FileFilter>) override { return {}; }
-  std::optional<ChosenPath> DoAskSavePath(const std::string&, std::span<const FileFilter>, const std::string&) override {
+  std::optional<ChosenPath> DoAskSavePath(const std::string&, std::span<const FileFilter>,
+                                          const std::string&) override {
     return {};
   }
 };

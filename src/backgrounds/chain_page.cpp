@@ -3,7 +3,10 @@
 #include <utility>
 
 #include "dice/keep_roll.h"
+#include "platform/form.h"
+#include "platform/platform.h"
 #include "steps/abilities/ability_effects_apply.h"
+#include "text/format.h"
 #include "text/numbers.h"
 
 namespace veld {

@@ -10,9 +10,12 @@
 #include <vector>
 
 #include "backgrounds/what_it_brought.h"
+#include "platform/form_template.h"
 #include "store/game.h"
 
 namespace veld {
+
+class Form;
 
 // The page on which a chain of youth tables runs: a line for each result under the label of its group, the Building
 // Points, the table that is being rolled and a list of what the tables brought. Begin runs the chain, once; Close

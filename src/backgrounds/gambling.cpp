@@ -7,6 +7,7 @@
 #include "rules/quirk_table.h"
 #include "rules/skill_table.h"
 #include "steps/skills/buy_skill.h"
+#include "text/format.h"
 #include "text/numbers.h"
 
 namespace veld {

@@ -10,10 +10,13 @@
 #include "backgrounds/youth_quirks.h"
 #include "dice/dice.h"
 #include "dice/keep_roll.h"
+#include "platform/form.h"
+#include "rules/named_rows.h"
 #include "rules/school_tables.h"
 #include "rules/spell_catalogue.h"
 #include "steps/skills/grants.h"
 #include "steps/spells/spell_dealing.h"
+#include "text/format.h"
 #include "text/numbers.h"
 
 namespace veld {
@@ -165,7 +168,7 @@ void RollFinalResult(ChainPage& page) {
 
 /// The cantrips of a mage without school years, which the results of the education may change.
 int Cantrips(const Game& game) {
-  return CantripAllowance(game.sheet.Intelligence.Whole, game.sheet.QuirkCounts[kChintzyMentor] > 0);
+  return CantripAllowance(game.sheet.Intelligence.Whole, game.sheet.QuirkCounts[QuirkRow::ChintzyMentor] > 0);
 }
 
 void RunMageChain(ChainPage& page) {
@@ -205,7 +208,7 @@ void RunMageChain(ChainPage& page) {
   RollMoneyModifier(page, "5N", 0);
   sheet.UsesMageBackground = 1;
   // A Chintzy Mentor's limit holds whatever the results brought.
-  if (sheet.QuirkCounts[kChintzyMentor] > 0) run.SpellListIndex = std::min(run.SpellListIndex, kChintzyCantrips);
+  if (sheet.QuirkCounts[QuirkRow::ChintzyMentor] > 0) run.SpellListIndex = std::min(run.SpellListIndex, kChintzyCantrips);
 }
 
 }  // namespace

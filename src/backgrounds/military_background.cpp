@@ -11,6 +11,7 @@
 #include "rules/military_tables.h"
 #include "steps/skills/grants.h"
 #include "steps/skills/pick_dialogs.h"
+#include "text/format.h"
 #include "text/numbers.h"
 
 namespace veld {

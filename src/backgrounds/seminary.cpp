@@ -7,6 +7,8 @@
 #include "dice/building_points.h"
 #include "dice/dice.h"
 #include "dice/keep_roll.h"
+#include "platform/platform.h"
+#include "rules/class_table.h"
 #include "rules/quirk_table.h"
 #include "rules/seminary_tables.h"
 #include "rules/skill_table.h"
@@ -14,6 +16,7 @@
 #include "steps/skills/grants.h"
 #include "steps/skills/pick_dialogs.h"
 #include "steps/skills/talent_purchase.h"
+#include "text/format.h"
 #include "text/numbers.h"
 #include "text/search.h"
 

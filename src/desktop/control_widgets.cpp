@@ -37,7 +37,7 @@ class FormButton : public QPushButton {
 QWidget* MakeButton(const Control& control, QWidget* page) {
   auto* button = new FormButton(page);
   button->setAutoDefault(false);
-  button->setDefault(control.Template.Role == ButtonRole::Default || control.Template.Role == ButtonRole::Both);
+  button->setDefault(IsDefault(control.Template.Role));
   return button;
 }
 

@@ -2,7 +2,6 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFile>
 #include <QFileDialog>
@@ -10,29 +9,20 @@
 #include <QTimer>
 #include <QWindow>
 #include <algorithm>
-#include <chrono>
 #include <stdexcept>
 #include <utility>
 
 #include "desktop/fonts_ahead.h"
 #include "desktop/form_window.h"
 #include "desktop/main_window.h"
+#include "platform/main_window.h"
+#include "platform/progress_form.h"
 
 namespace veld {
 
 namespace {
 
-enum : int { kProgressText = 10, kProgressBar = 11, kProgressCancel = 2 };
-constexpr int kProgressWidth = 48;
-
-constexpr ControlTemplate kProgressControls[] = {
-    TextAt(0, 0, kProgressText, "", kProgressWidth, 0),
-    {.Kind = ControlKind::Progress, .Id = kProgressBar, .Row = 1, .Column = 0, .Width = kProgressWidth},
-    ButtonAt(2, 0, kProgressCancel, "&Cancel", ButtonRole::Cancel),
-};
-constexpr FormTemplate kProgressTemplate{"Progress", "VELD", kProgressControls};
-constexpr int kProgressEvery = 25;  // milliseconds from one look at what the player does to the next
-constexpr int kUnseen = 1000;       // milliseconds after which a window that nobody sees starts all the same
+constexpr int kUnseen = 1000;  // milliseconds after which a window that nobody sees starts all the same
 
 /// "Text Files (*.TXT)" of ".txt" for the file dialog, which shows the name as it is and takes what stands in the last
 /// brackets for its own.
@@ -110,11 +100,10 @@ class OnTop {
 
 }  // namespace
 
-struct DesktopPlatform::Progress {
-  Form form{kProgressTemplate};
+struct DesktopPlatform::Progress : ProgressForm {
+  using ProgressForm::ProgressForm;
+
   std::unique_ptr<FormWindow> window;
-  QElapsedTimer sinceEvents;
-  bool isCancelled = false;
 };
 
 DesktopPlatform::DesktopPlatform() : DesktopPlatform(Settings()) {}
@@ -124,11 +113,6 @@ DesktopPlatform::DesktopPlatform(Settings settings) : settings_(settings) {
 }
 
 DesktopPlatform::~DesktopPlatform() = default;
-
-std::int64_t DesktopPlatform::Now() const {
-  const auto now = std::chrono::system_clock::now().time_since_epoch();
-  return std::chrono::duration_cast<std::chrono::seconds>(now).count();
-}
 
 /// The style of pages, made when the first one is: fonts come last, as long as they are still being read.
 const PaperStyle& DesktopPlatform::Style() {
@@ -225,14 +209,6 @@ void DesktopPlatform::SetMainTitle(std::string_view title) {
 
 // --- Messages, files, progress -----------------------------------------------------------------------------------
 
-void DesktopPlatform::DoShowMessage(const std::string& caption, const std::string& text) {
-  RunMessageForm(*this, caption, text);
-}
-
-Answer DesktopPlatform::DoAskYesNo(const std::string& caption, const std::string& text) {
-  return RunQuestionForm(*this, caption, text);
-}
-
 bool DesktopPlatform::RunFileDialog(QFileDialog& dialog, std::span<const FileFilter> filters) {
   dialog.setOption(QFileDialog::DontUseNativeDialog, !settings_.UsesNativeFileDialogs);
   dialog.setOption(QFileDialog::HideNameFilterDetails);
@@ -270,29 +246,23 @@ std::optional<ChosenPath> DesktopPlatform::DoAskSavePath(const std::string& capt
 
 void DesktopPlatform::BeginProgress(std::string_view caption, std::string_view text) {
   EndProgress();
-  progress_ = std::make_unique<Progress>();
+  progress_ = std::make_unique<Progress>(caption, text);
   Progress& progress = *progress_;
-  progress.form.SetTitle(caption);
-  progress.form.SetText(kProgressText, text);
-  progress.form.onCommand = [&progress](int) {
-    progress.isCancelled = true;
-    progress.form.SetEnabled(kProgressCancel, false);
-  };
   progress.window = std::make_unique<FormWindow>(progress.form, Style(), Top());
   open_.push_back(progress.window.get());
   progress.window->ShowForProgress();
-  progress.sinceEvents.start();
+  progress.Looked();
   QCoreApplication::processEvents();
 }
 
 bool DesktopPlatform::ShowProgress(int percent) {
   if (!progress_) return true;
-  if (progress_->sinceEvents.elapsed() >= kProgressEvery) {
-    progress_->form.SetNumber(kProgressBar, percent);
+  if (progress_->IsLookDue()) {
+    progress_->ShowPercent(percent);
     QCoreApplication::processEvents();
-    progress_->sinceEvents.restart();
+    progress_->Looked();
   }
-  return !progress_->isCancelled;
+  return !progress_->IsCancelled();
 }
 
 void DesktopPlatform::EndProgress() {

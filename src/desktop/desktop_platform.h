@@ -40,11 +40,8 @@ class DesktopPlatform : public Platform {
   void BeginProgress(std::string_view caption, std::string_view text) override;
   bool ShowProgress(int percent) override;
   void EndProgress() override;
-  std::int64_t Now() const override;
 
  protected:
-  void DoShowMessage(const std::string& caption, const std::string& text) override;
-  Answer DoAskYesNo(const std::string& caption, const std::string& text) override;
   std::optional<std::string> DoAskOpenPath(const std::string& caption, std::span<const FileFilter> filters) override;
   std::optional<ChosenPath> DoAskSavePath(const std::string& caption, std::span<const FileFilter> filters,
                                           const std::string& suggestedName) override;

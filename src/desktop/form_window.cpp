@@ -21,6 +21,7 @@
 #include <utility>
 
 #include "desktop/control_widgets.h"
+#include "platform/control_kinds.h"
 #include "platform/control_names.h"
 #include "platform/mnemonics.h"
 
@@ -30,14 +31,6 @@ namespace {
 
 constexpr int kTitleBarHeight = 40;  // room for what a window manager draws around a window
 constexpr int kFrameWidth = 12;
-
-bool IsTyped(ControlKind kind) {
-  return kind == ControlKind::Edit || kind == ControlKind::Number || kind == ControlKind::MultiLine;
-}
-
-bool IsChosenFrom(ControlKind kind) {
-  return kind == ControlKind::List || kind == ControlKind::Combo;
-}
 
 }  // namespace
 
@@ -211,26 +204,9 @@ void FormWindow::MakeCorner() {
   }
 }
 
-/// The first field to type in has the focus, its text chosen, so that a player just types; else a list; else the
-/// default button.
 void FormWindow::FocusFirst() {
-  const auto& controls = form_.Controls();
-  const auto take = [&](auto fits) {
-    for (std::size_t i = 0; i < controls.size(); ++i) {
-      if (!controls[i].Visible || !controls[i].Enabled || !fits(controls[i].Template)) continue;
-      TakeFocus(i);
-      return true;
-    }
-    return false;
-  };
-  if (wantedFocus_) return TakeFocus(*wantedFocus_);
-  if (take([](const ControlTemplate& c) { return IsTyped(c.Kind); })) return;
-  if (take([](const ControlTemplate& c) { return IsChosenFrom(c.Kind); })) return;
-  if (take([](const ControlTemplate& c) { return c.Role == ButtonRole::Default || c.Role == ButtonRole::Both; }))
-    return;
-  take([](const ControlTemplate& c) {
-    return c.Kind == ControlKind::Button || c.Kind == ControlKind::Check || c.Kind == ControlKind::Radio;
-  });
+  const std::size_t first = wantedFocus_ ? *wantedFocus_ : form_.FirstFocus();
+  if (first < form_.Controls().size()) TakeFocus(first);
 }
 
 void FormWindow::TakeFocus(std::size_t control) {

@@ -1,5 +1,7 @@
 #include "dice/building_points.h"
 
+#include "platform/platform.h"
+
 namespace veld {
 
 namespace {

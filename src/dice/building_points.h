@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "platform/platform.h"
 #include "store/game.h"
 
 namespace veld {

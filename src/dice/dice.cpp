@@ -6,6 +6,8 @@
 #include "dice/random.h"
 #include "dice/typed_dice.h"
 #include "store/log_file.h"
+#include "text/format.h"
+#include "text/numbers.h"
 #include "text/search.h"
 
 namespace veld {

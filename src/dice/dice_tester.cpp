@@ -5,7 +5,9 @@
 
 #include "dice/dice.h"
 #include "dice/typed_dice.h"
+#include "platform/platform.h"
 #include "store/log_file.h"
+#include "text/format.h"
 
 namespace veld {
 
@@ -55,7 +57,8 @@ void RunDiceTester(Game& game) {
   std::array<Bins, std::size(kSeries)> bins{};
   int rolled = 0;
   bool finished = true;
-  for (std::size_t i = 0; i < std::size(kSeries) && finished; ++i) finished = RollSeries(game, kSeries[i], rolled, bins[i]);
+  for (std::size_t i = 0; i < std::size(kSeries) && finished; ++i)
+    finished = RollSeries(game, kSeries[i], rolled, bins[i]);
   game.platform.EndProgress();
   CloseLog(game.dice.LogFile);
   game.dice.LogFile = -1;

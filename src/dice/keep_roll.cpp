@@ -4,7 +4,10 @@
 
 #include "dice/building_points.h"
 #include "dice/dice.h"
+#include "platform/form.h"
+#include "platform/platform.h"
 #include "rules/quirk_table.h"
+#include "text/format.h"
 
 namespace veld {
 

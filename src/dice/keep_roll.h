@@ -7,6 +7,8 @@
 
 namespace veld {
 
+class Form;
+
 /// The control of a window that shows the Building Points left.
 inline constexpr int kBuildingPointsControl = 50;
 

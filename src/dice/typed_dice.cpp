@@ -1,5 +1,8 @@
 #include "dice/typed_dice.h"
 
+#include "platform/form.h"
+#include "platform/platform.h"
+
 namespace veld {
 
 namespace {
@@ -39,7 +42,9 @@ void RunGetDice(Game& game) {
 
 }  // namespace
 
-bool DiceAreTyped(const Game& game) { return game.IsOn(kRollYourOwnDice); }
+bool DiceAreTyped(const Game& game) {
+  return game.IsOn(kRollYourOwnDice);
+}
 
 std::int64_t AskTypedDice(Game& game, std::int64_t lowest, std::int64_t highest) {
   const auto isAccepted = [&](std::int64_t entry) {

@@ -1,5 +1,8 @@
 #include "generation/main_title.h"
 
+#include "platform/platform.h"
+#include "text/format.h"
+
 namespace veld {
 
 void UpdateMainTitle(Game& game, std::string_view name) {

@@ -1,9 +1,11 @@
 #include "generation/save_by_extension.h"
 
+#include "platform/platform.h"
 #include "sheets/sheet_save.h"
 #include "steps/race/step_three.h"
 #include "store/character_file.h"
 #include "text/file_name.h"
+#include "text/format.h"
 #include "text/search.h"
 
 namespace veld {
@@ -12,9 +14,8 @@ namespace {
 
 // The misspelling and the double blanks are as players know them.
 constexpr FileFilter kSaveFilters[] = {
-    {"Quellmarch Files (*.VLF)", ".vlf"}, {"Text Files (*.TXT)", ".txt"},
-    {"HTML Files (*.HTML)", ".html"},     {"HTM Files  (*.HTM)", ".htm"},
-    {"Tab Seperated Files  (*.CSV)", ".csv"}, {"XML Files  (*.XML)", ".xml"},
+    {"Quellmarch Files (*.VLF)", ".vlf"}, {"Text Files (*.TXT)", ".txt"},           {"HTML Files (*.HTML)", ".html"},
+    {"HTM Files  (*.HTM)", ".htm"},       {"Tab Seperated Files  (*.CSV)", ".csv"}, {"XML Files  (*.XML)", ".xml"},
 };
 constexpr FileFilter kLoadFilters[] = {{"Quellmarch Files (*.VLF)", ".vlf"}};
 

@@ -10,6 +10,7 @@
 #include "dice/keep_roll.h"
 #include "generation/main_title.h"
 #include "generation/save_by_extension.h"
+#include "platform/platform.h"
 #include "rules/quirk_table.h"
 #include "steps/abilities/step_eight.h"
 #include "steps/classes/honor.h"
@@ -28,6 +29,9 @@
 #include "steps/spells/spell_books.h"
 #include "steps/spells/spell_selection.h"
 #include "store/recovery.h"
+#include "store/sheet_accessors.h"
+#include "text/format.h"
+#include "text/numbers.h"
 #include "text/search.h"
 
 namespace veld {
@@ -39,16 +43,6 @@ constexpr int kLowestFreeWisdom = 6;
 constexpr int kLowestMiddleClass = 7;  ///< SocialClassIndex below this forces a mage into the rustic package
 constexpr float kRusticPackageBP = 6.0F;
 
-// Rows of ClassTable that the run names.
-constexpr std::size_t kBarbarian = 4;
-constexpr std::size_t kBerserker = 5;
-constexpr std::size_t kMonk = 9;
-constexpr std::size_t kBattleMage = 13;
-constexpr std::size_t kPaintedMage = 58;
-
-bool HasClass(const Game& game, std::size_t classRow) {
-  return game.sheet.ClassLevels[classRow] > 0;
-}
 bool IsSingleClass(const Game& game) {
   return !Contains(game.sheet.LevelText, "/");
 }
@@ -75,7 +69,9 @@ void RunFighterYouth(Game& game) {
   game.sheet.UsesFighterBackground = AsksForYouth(game, "Warmonger's Almanac");
   if (game.sheet.UsesFighterBackground == 0) return;
   if (IsSingleClass(game)) RunPackageSelect(game, PackageList::Fighter);
-  if (!HasClass(game, kBarbarian) && !HasClass(game, kBerserker) && !HasClass(game, kMonk)) RunWMABackground(game);
+  const bool wasNeverDrilled = HasClass(game.sheet, ClassRow::Barbarian) || HasClass(game.sheet, ClassRow::Berserker) ||
+                               HasClass(game.sheet, ClassRow::Monk);
+  if (!wasNeverDrilled) RunWMABackground(game);
 }
 
 void RunMageYouth(Game& game) {
@@ -91,7 +87,7 @@ void RunMageYouth(Game& game) {
     RunPackageSelect(game, PackageList::Mage);
   }
   RunHXABackground(game);
-  if (HasClass(game, kBattleMage)) game.sheet.IsMageClass = 0;
+  if (HasClass(game.sheet, ClassRow::BattleMage)) game.sheet.IsMageClass = 0;
 }
 
 void RunPriestYouth(Game& game) {
@@ -105,7 +101,7 @@ void ChooseSpells(Game& game) {
   if (!HasSpells(game)) return;
   RunSpellSellection(game);
   FinishSpellList(game);
-  if (game.sheet.UsesMageBackground == 1 && !HasClass(game, kPaintedMage)) MakeFirstSpellBook(game);
+  if (game.sheet.UsesMageBackground == 1 && !HasClass(game.sheet, ClassRow::PaintedMage)) MakeFirstSpellBook(game);
 }
 
 /// The starting money and the inherited goods that there are, in one sentence.

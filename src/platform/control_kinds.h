@@ -4,11 +4,23 @@
 
 namespace veld {
 
-// What the lay-out and the names of controls ask of a kind of control.
+// What the lay-out, the names of controls and the front ends ask of a kind of control.
 
 inline bool IsBox(ControlKind kind) {
   return kind == ControlKind::Edit || kind == ControlKind::Number || kind == ControlKind::Button ||
          kind == ControlKind::Combo || kind == ControlKind::Progress;
+}
+
+inline bool IsLine(ControlKind kind) {
+  return kind == ControlKind::Edit || kind == ControlKind::Number;
+}
+
+inline bool IsTyped(ControlKind kind) {
+  return IsLine(kind) || kind == ControlKind::MultiLine;
+}
+
+inline bool IsChosenFrom(ControlKind kind) {
+  return kind == ControlKind::List || kind == ControlKind::Combo;
 }
 
 inline bool IsMark(ControlKind kind) {

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/control_kinds.h"
+#include "text/format.h"
 #include "text/utf8.h"
 
 namespace veld {
@@ -44,6 +46,10 @@ void Form::SetText(int id, std::string_view text) {
   if (control->Text == shown) return;
   control->Text = std::move(shown);
   Changed(*control);
+}
+
+void Form::SetNumber(int id, std::int64_t number) {
+  SetText(id, Format("%i", number));
 }
 
 const std::vector<std::string>& Form::Items(int id) const {
@@ -135,7 +141,9 @@ void Form::Open() {
   if (onOpened) onOpened();
 }
 
-bool Form::IsUsable(const Control* control) const { return control && !closed_ && control->Enabled && control->Visible; }
+bool Form::IsUsable(const Control* control) const {
+  return control && !closed_ && control->Enabled && control->Visible;
+}
 
 bool Form::Press(int id) {
   const Control* control = Find(id);
@@ -172,7 +180,7 @@ bool Form::Type(int id, std::string_view text) {
 bool Form::Mark(int id, bool checked) {
   Control* control = Find(id);
   if (!IsUsable(control)) return false;
-  if (control->Template.Kind != ControlKind::Check && control->Template.Kind != ControlKind::Radio) return false;
+  if (!IsMark(control->Template.Kind)) return false;
   SetMark(*control, checked || control->Template.Kind == ControlKind::Radio);
   if (onCommand) onCommand(id);
   return true;
@@ -187,7 +195,7 @@ bool Form::ChooseMenuItem(int id) {
 bool Form::PressDefault() {
   for (const Control& control : controls_) {
     const ButtonRole role = control.Template.Role;
-    if ((role == ButtonRole::Default || role == ButtonRole::Both) && Press(control.Template.Id)) return true;
+    if (IsDefault(role) && Press(control.Template.Id)) return true;
   }
   return false;
 }
@@ -195,9 +203,24 @@ bool Form::PressDefault() {
 void Form::PressCloseBox() {
   for (const Control& control : controls_) {
     const ButtonRole role = control.Template.Role;
-    if ((role == ButtonRole::Cancel || role == ButtonRole::Both) && Press(control.Template.Id)) return;
+    if (IsCancel(role) && Press(control.Template.Id)) return;
   }
   Close();
+}
+
+std::size_t Form::FirstFocus() const {
+  constexpr bool (*kWanted[])(const ControlTemplate&) = {
+      [](const ControlTemplate& control) { return IsTyped(control.Kind); },
+      [](const ControlTemplate& control) { return IsChosenFrom(control.Kind); },
+      [](const ControlTemplate& control) { return IsDefault(control.Role); },
+      [](const ControlTemplate& control) { return CanBeUsed(control.Kind); },
+  };
+  for (const auto isWanted : kWanted) {
+    for (std::size_t i = 0; i < controls_.size(); ++i) {
+      if (controls_[i].Visible && controls_[i].Enabled && isWanted(controls_[i].Template)) return i;
+    }
+  }
+  return controls_.size();
 }
 
 }  // namespace veld

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -8,7 +9,6 @@
 
 #include "platform/form_template.h"
 #include "platform/menu.h"
-#include "text/format.h"
 #include "text/numbers.h"
 
 namespace veld {
@@ -26,10 +26,10 @@ class FormObserver {
 /// A control and its live state.
 struct Control {
   ControlTemplate Template;
-  std::string Text = {};           ///< label, result, button: its text; edit: what stands in it
+  std::string Text = {};                ///< label, result, button: its text; edit: what stands in it
   std::vector<std::string> Items = {};  ///< list, combo
-  int Selection = -1;              ///< list, combo: place in Items, -1 none
-  bool Checked = false;            ///< check, radio
+  int Selection = -1;                   ///< list, combo: place in Items, -1 none
+  bool Checked = false;                 ///< check, radio
   bool Enabled = true;
   bool Visible = true;
 };
@@ -45,17 +45,17 @@ class Form {
   Form(const Form&) = delete;
   Form& operator=(const Form&) = delete;
 
-  std::function<void()> onOpened;              ///< once, when the form is about to be shown
-  std::function<void(int id)> onCommand;       ///< a button was pressed, a check or radio button changed, a menu item chosen
-  std::function<void(int id)> onSelect;        ///< a player chose a row of a list or combo
-  std::function<void(int id)> onEdit;          ///< a player typed
-  std::vector<MenuItem> contextMenu;           ///< the menu of a right click; its ids go to onCommand
+  std::function<void()> onOpened;         ///< once, when the form is about to be shown
+  std::function<void(int id)> onCommand;  ///< a button was pressed, a check or radio button changed, a menu item chosen
+  std::function<void(int id)> onSelect;   ///< a player chose a row of a list or combo
+  std::function<void(int id)> onEdit;     ///< a player typed
+  std::vector<MenuItem> contextMenu;      ///< the menu of a right click; its ids go to onCommand
 
   // For handlers.
   const std::string& Text(int id) const;
   std::int64_t Number(int id, std::int64_t largest = kLargestEntry) const { return ReadEntry(Text(id), largest); }
   void SetText(int id, std::string_view text);
-  void SetNumber(int id, std::int64_t number) { SetText(id, Format("%i", number)); }
+  void SetNumber(int id, std::int64_t number);
   const std::vector<std::string>& Items(int id) const;
   void SetItems(int id, std::vector<std::string> items);  ///< the selection becomes none
   int Selection(int id) const;
@@ -75,6 +75,10 @@ class Form {
   const std::string& Title() const { return title_; }
   const std::vector<Control>& Controls() const { return controls_; }
   void SetObserver(FormObserver* observer) { observer_ = observer; }
+  /// The control that has the focus first, if no handler wants another: a field to type in, so that a player just
+  /// types; else a list; else the default button; else whatever can be pressed. The number of controls if there is
+  /// none.
+  std::size_t FirstFocus() const;
   void Open();  ///< calls onOpened, the first time
   bool Press(int id);
   bool Choose(int id, int selection);

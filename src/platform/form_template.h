@@ -30,6 +30,13 @@ enum class ButtonRole : std::uint8_t {
   Both,     ///< the only button of a notice: Enter, Escape and the close box
 };
 
+constexpr bool IsDefault(ButtonRole role) {
+  return role == ButtonRole::Default || role == ButtonRole::Both;
+}
+constexpr bool IsCancel(ButtonRole role) {
+  return role == ButtonRole::Cancel || role == ButtonRole::Both;
+}
+
 /// A control of a form as data. Its place is a cell of the form's grid; controls with the same row and column stand
 /// side by side in that cell, in the order of the template (a row of buttons is one cell, and runs on over the empty
 /// cells to its right). A row number left out is a blank line.

@@ -1,9 +1,11 @@
 #include "platform/platform.h"
 
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
 #include <system_error>
 
+#include "platform/form.h"
 #include "text/format.h"
 #include "text/search.h"
 #include "text/utf8.h"
@@ -65,15 +67,20 @@ std::optional<std::string> Platform::AskSavePath(std::string_view caption, std::
   return std::nullopt;
 }
 
-void RunMessageForm(Platform& platform, const std::string& caption, const std::string& text) {
+std::int64_t Platform::Now() const {
+  const auto now = std::chrono::system_clock::now().time_since_epoch();
+  return std::chrono::duration_cast<std::chrono::seconds>(now).count();
+}
+
+void Platform::DoShowMessage(const std::string& caption, const std::string& text) {
   Form form(kMessageTemplate);
   form.SetTitle(caption);
   form.SetText(kMessageText, text);
   form.onCommand = [&](int) { form.Close(); };
-  platform.RunForm(form);
+  RunForm(form);
 }
 
-Answer RunQuestionForm(Platform& platform, const std::string& caption, const std::string& text) {
+Answer Platform::DoAskYesNo(const std::string& caption, const std::string& text) {
   Form form(kQuestionTemplate);
   form.SetTitle(caption);
   form.SetText(kMessageText, text);
@@ -82,7 +89,7 @@ Answer RunQuestionForm(Platform& platform, const std::string& caption, const std
     answer = id == kMessageYes ? Answer::Yes : Answer::No;
     form.Close();
   };
-  platform.RunForm(form);
+  RunForm(form);
   return answer;
 }
 

@@ -1,18 +1,16 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
-#include <vector>
-
-#include "platform/form.h"
-#include "platform/menu.h"
 
 namespace veld {
+
+class Form;
+struct MainWindow;
 
 /// The answer to a question. A rule that says "any answer but Yes" reads Closed as No; a rule that takes a Building
 /// Point "on No" reads Closed as Yes.
@@ -33,14 +31,6 @@ struct ChosenPath {
 /// `path` with the extension of the chosen filter, unless it ends in that of one of the filters, in capitals or not:
 /// what follows the point in "St. Ada" is none.
 std::string WithExtension(std::string path, std::span<const FileFilter> filters, std::size_t chosen);
-
-/// The one top-level window: a title, a menu and ruled paper.
-struct MainWindow {
-  std::string Title;
-  std::vector<MenuItem> Menu = {};
-  std::function<void()> onStart = {};          ///< once, when the window stands
-  std::function<void(int id)> onCommand = {};  ///< a menu item was chosen
-};
 
 /// The whole of what the program asks of a window system. The desktop, the terminal and the tests implement it.
 /// All texts are UTF-8. Everything runs on one thread.
@@ -75,18 +65,15 @@ class Platform {
   virtual void EndProgress() = 0;
 
   /// The clock, in seconds since 1970.
-  virtual std::int64_t Now() const = 0;
+  virtual std::int64_t Now() const;
 
  protected:
-  virtual void DoShowMessage(const std::string& caption, const std::string& text) = 0;
-  virtual Answer DoAskYesNo(const std::string& caption, const std::string& text) = 0;
+  // A message and a question are ordinary forms, so that everything a player sees is the same paper.
+  virtual void DoShowMessage(const std::string& caption, const std::string& text);
+  virtual Answer DoAskYesNo(const std::string& caption, const std::string& text);
   virtual std::optional<std::string> DoAskOpenPath(const std::string& caption, std::span<const FileFilter> filters) = 0;
   virtual std::optional<ChosenPath> DoAskSavePath(const std::string& caption, std::span<const FileFilter> filters,
                                                   const std::string& suggestedName) = 0;
 };
-
-/// For front ends: a message and a question as ordinary forms, so that everything a player sees is the same paper.
-void RunMessageForm(Platform& platform, const std::string& caption, const std::string& text);
-Answer RunQuestionForm(Platform& platform, const std::string& caption, const std::string& text);
 
 }  // namespace veld

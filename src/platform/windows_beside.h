@@ -5,9 +5,9 @@
 #include <ranges>
 #include <utility>
 
-#include "platform/form.h"
-
 namespace veld {
+
+class Form;
 
 /// For front ends: the windows that stay open beside the main window. `Page` shows a form and watches it; its IsOver()
 /// says that the form has closed and no handler of it still runs.

@@ -1,8 +1,11 @@
 #include "referee/training.h"
 
 #include "dice/dice.h"
+#include "platform/form.h"
+#include "platform/platform.h"
 #include "rules/training_tables.h"
 #include "store/log_file.h"
+#include "text/format.h"
 #include "text/search.h"
 
 namespace veld {

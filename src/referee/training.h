@@ -6,6 +6,8 @@
 
 namespace veld {
 
+class Form;
+
 /// What a character goes through to gain a level: location, teacher, class size, instruction and an event are rolled,
 /// shown in the controls 200 to 204 of the window and written to Training.log. Changes Honor and the free mastery and
 /// skills of the run.

@@ -7,7 +7,7 @@ namespace veld {
 // Meant so, though they look like slips: the holy knight has no kicker; rows 73, 103 and 111 have a gain die other than
 // the d4 twice; the zealots of rows 71, 77, 83 and 102 save as thieves or fighters and those of 84 and 109 by a table of
 // their own; the realm channeler has no saving throw table. Hit dice of "-" stand in kHitDiceByLevel.
-constexpr std::array<ClassRow, 123> kClasses = {{
+constexpr std::array<ClassEntry, kLastSingleClass> kClasses = {{
   // row  name                                    sw  grp  BP  soc  alignments                        bg  hit dice     kick  slots  xp  gain dice           sv  requirements
   {  1, "Cleric",                                0, "C", 10,   8, "all",                             0, "d8/9/+2",     20, "2/4",  1, "12 4 10 6 20 8 4",  4, "WIS 9"},
   {  2, "Druid",                                 0, "C", 10,   6, "N",                               0, "-",           20, "2/4",  2, "12 4 10 6 20 8 4",  4, "WIS 12, CHA 15"},
@@ -134,7 +134,7 @@ constexpr std::array<ClassRow, 123> kClasses = {{
   {123, "Realm Channeler (Fire)",                7, "M",  9,   7, "all",                           -10, "d4/12/+1",    20, "1/6", 33, "12 8 10 20 4 6 4",  0, "CON 13, INT 11, WIS 12, CHA 13"},
 }};
 
-constexpr std::array<MultiClassRow, 23> kMultiClasses = {{
+constexpr std::array<MultiClassRow, kClassRows - kFirstMultiClass> kMultiClasses = {{
   // row  name                           grp    BP  soc  bg  requirements
   {177, "Fighter/Magic-User/Assassin", "FMT", 12,   7, 10, "STR 12, DEX 12, INT 11"},
   {178, "Magic-User/Assassin",         "MT",  12,   7,  5, "STR 12, DEX 12, INT 11"},

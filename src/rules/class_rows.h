@@ -119,7 +119,7 @@ struct Ladder {
   }
 };
 
-struct ClassRow {
+struct ClassEntry {
   int row;
   std::string_view name;
   int ruleSwitch;
@@ -176,8 +176,8 @@ struct WeaponList {
 inline constexpr std::size_t kLadders = 33;
 inline constexpr std::size_t kWeaponLists = 41;
 
-extern const std::array<ClassRow, 123> kClasses;
-extern const std::array<MultiClassRow, 23> kMultiClasses;
+extern const std::array<ClassEntry, kLastSingleClass> kClasses;
+extern const std::array<MultiClassRow, kClassRows - kFirstMultiClass> kMultiClasses;
 extern const std::array<Ladder, kLadders> kExperienceLadders;
 extern const std::array<HitDiceLevels, 11> kHitDiceByLevel;
 extern const std::array<ThiefPoints, 6> kThiefPoints;

@@ -45,7 +45,7 @@ void SetGroups(ClassRecord& record, const ClassGroups& groups) {
   record.IsThief = groups.thief;
 }
 
-void ExpandClass(ClassRecord& record, const ClassRow& row) {
+void ExpandClass(ClassRecord& record, const ClassEntry& row) {
   record.Name = row.name;
   record.RuleSwitch = row.ruleSwitch;
   record.ExperienceForLevel = kExperienceLadders[static_cast<std::size_t>(row.ladder - 1)].experience;
@@ -84,7 +84,7 @@ struct ExpandedClasses {
   std::array<ClassRecord, kClassRows> rows;
 
   ExpandedClasses() {
-    for (const ClassRow& row : kClasses) ExpandClass(Row(row.row), row);
+    for (const ClassEntry& row : kClasses) ExpandClass(Row(row.row), row);
     for (const MultiClassRow& row : kMultiClasses) ExpandMultiClass(Row(row.row), row);
     for (const HitDiceLevels& dice : kHitDiceByLevel) {
       for (int level = dice.firstLevel; level <= dice.lastLevel; ++level) {

@@ -5,10 +5,10 @@
 #include <string_view>
 
 #include "rules/ability.h"
+#include "rules/class_row_count.h"
 
 namespace veld {
 
-inline constexpr int kClassRows = 200;
 inline constexpr int kLastSingleClass = 123;  ///< rows 1 to 123 are classes, row 0 and rows 124 to 176 blank
 inline constexpr int kFirstMultiClass = 177;  ///< rows 177 to 199 are combinations of classes, with "/" in their names
 inline constexpr int kHighestLadderLevel = 98;

@@ -16,9 +16,6 @@ inline constexpr int Style = 2;       ///< a fighting style or an ability
 inline constexpr int Repeatable = 3;  ///< may be taken again and again
 }  // namespace ProficiencyKind
 
-/// A fighting style that is counted in multiples.
-inline constexpr int kSingleWeaponStyle = 94;
-
 /// A weapon or fighting style that a character can be proficient in, with its line for the sheets. Row numbers are
 /// stored in character files.
 struct ProficiencyRecord {

@@ -10,7 +10,7 @@ namespace veld {
 inline constexpr int kAny = kAnyQuirkCount;
 
 /// A row as the tables of the books print it; what a whole table shares stands with its QuirkRowGroup.
-struct QuirkRow {
+struct QuirkEntry {
   int Row;
   int Low;
   int High;
@@ -27,7 +27,7 @@ struct QuirkRowGroup {
   std::string_view TableName;
   std::string_view Source;
   int Book;
-  std::span<const QuirkRow> Rows;
+  std::span<const QuirkEntry> Rows;
 };
 
 /// The tables of the core book, and those of the supplements.

@@ -11,7 +11,7 @@ namespace {
 
 //   row  low high   BP  kind           most  name, next table, its rolls, BP once held
 
-constexpr QuirkRow kHexwrightsAlmanac6JRows[] = {
+constexpr QuirkEntry kHexwrightsAlmanac6JRows[] = {
     {306,   1,  15,   6, kMinorQuirk,      1, "Bookworm"},
     {307,  16,  30,   5, kMinorQuirk,      1, "Clumsy Fingers"},
     {308,  31,  46,   6, kMinorQuirk,      1, "Large Handwriting"},
@@ -21,12 +21,12 @@ constexpr QuirkRow kHexwrightsAlmanac6JRows[] = {
     {312,  88, 100,   0, kSubTable,        1, "Sloppy Penmanship    ", "HXA Sloppy Penmanship Table"},
 };
 
-constexpr QuirkRow kHXASloppyPenmanshipTableRows[] = {
+constexpr QuirkEntry kHXASloppyPenmanshipTableRows[] = {
     {313,   1,   3,   7, kMinorQuirk,      1, "Sloppy Penmanship (Minor)"},
     {314,   4,   6,  12, kMajorQuirk,      1, "Sloppy Penmanship (Major)"},
 };
 
-constexpr QuirkRow kHexwrightsAlmanac6KRows[] = {
+constexpr QuirkEntry kHexwrightsAlmanac6KRows[] = {
     {315,   1,  14,   7, kSubTable,        1, "College Rivalry", "HXA College Rivalry Table"},
     {316,  15,  28,  15, kMajorQuirk,      1, "Learning Disability"},
     {317,  29,  42,   8, kMinorQuirk,      1, "Performance Anxiety"},
@@ -36,7 +36,7 @@ constexpr QuirkRow kHexwrightsAlmanac6KRows[] = {
     {321,  85, 100,   5, kMinorQuirk,      1, "Know-it-all"},
 };
 
-constexpr QuirkRow kHexwrightsAlmanac6LRows[] = {
+constexpr QuirkEntry kHexwrightsAlmanac6LRows[] = {
     {322,   1,  17,   9, kMinorQuirk,      1, "Chintzy Mentor"},
     {323,  18,  34,  15, kMajorQuirk,      1, "Gimp Mentor"},
     {324,  35,  50,   9, kMinorQuirk,      1, "Old School Mentor"},
@@ -45,7 +45,7 @@ constexpr QuirkRow kHexwrightsAlmanac6LRows[] = {
     {327,  85, 100,   8, kMinorQuirk,      1, "Wuss Mentor"},
 };
 
-constexpr QuirkRow kHXAMagicalAllergyTableRows[] = {
+constexpr QuirkEntry kHXAMagicalAllergyTableRows[] = {
     {328,   1,   6,   9, kMinorQuirk,      1, "Magical Allergy [Abjuration School]"},
     {329,   7,  12,   9, kMinorQuirk,      1, "Magical Allergy [Alteration School]"},
     {330,  13,  18,   9, kMinorQuirk,      1, "Magical Allergy [Conjuration/Summoning School]"},
@@ -62,11 +62,11 @@ constexpr QuirkRow kHXAMagicalAllergyTableRows[] = {
 };
 
 // Kept slip: the misspelt table name puts this row outside the Magical Allergy table, which so has no row for 71-80.
-constexpr QuirkRow kHXAMAgicalAllergyTableRows[] = {
+constexpr QuirkEntry kHXAMAgicalAllergyTableRows[] = {
     {339,  71,  80,   9, kMinorQuirk,      1, "Magical Allergy [Spell Components: Animal Matter]"},
 };
 
-constexpr QuirkRow kHXACollegeRivalryTableRows[] = {
+constexpr QuirkEntry kHXACollegeRivalryTableRows[] = {
     {342,   1,   1,   7, kMinorQuirk,      1, "College Rivalry [Abjuration]"},
     {343,   2,   2,   7, kMinorQuirk,      1, "College Rivalry [Alteration]"},
     {344,   3,   3,   7, kMinorQuirk,      1, "College Rivalry [Conjuration/Summoning]"},
@@ -77,7 +77,7 @@ constexpr QuirkRow kHXACollegeRivalryTableRows[] = {
     {349,   8,   8,   7, kMinorQuirk,      1, "College Rivalry [Necromancy]"},
 };
 
-constexpr QuirkRow kHXASuperstitiousCasterTableRows[] = {
+constexpr QuirkEntry kHXASuperstitiousCasterTableRows[] = {
     {350,   1,   1,   6, kMinorQuirk,      1, "Superstitious Caster: Always adds a minor material component to the "
                                               "casting of a spell."},
     {351,   2,   2,   6, kMinorQuirk,      1, "Superstitious Caster: Always adds a minor somatic component to the "
@@ -95,7 +95,7 @@ constexpr QuirkRow kHXASuperstitiousCasterTableRows[] = {
     {359,  10,  10,   7, kMinorQuirk,      1, "Superstitious Caster: Performer."},
 };
 
-constexpr QuirkRow kWarmongersAlmanac6MRows[] = {
+constexpr QuirkEntry kWarmongersAlmanac6MRows[] = {
     {360,   1,  12,   7, kMinorQuirk,      1, "Bad Back"},
     {361,  13,  24,   5, kMinorQuirk,      1, "Butt Ugly"},
     {362,  25,  36,   9, kMajorQuirk,      1, "Corrosive Sweat"},
@@ -106,7 +106,7 @@ constexpr QuirkRow kWarmongersAlmanac6MRows[] = {
     {367,  88, 100,  10, kMajorQuirk,      1, "Uncoordinated"},
 };
 
-constexpr QuirkRow kWarmongersAlmanac6NRows[] = {
+constexpr QuirkEntry kWarmongersAlmanac6NRows[] = {
     {368,   1,   9,  11, kSubTable,        1, "Armor Prejudice    ", "WMA Armor Prejudice"},
     {369,  10,  18,   4, kMinorQuirk,      1, "Armor Snobbery"},
     {370,  19,  27,   9, kMajorQuirk,      1, "Bad Luck"},
@@ -120,7 +120,7 @@ constexpr QuirkRow kWarmongersAlmanac6NRows[] = {
     {378,  91, 100,   0, kSubTable,        1, "Weapon Prejudice    ", "WMA Weapon Prejudice Major/Minor"},
 };
 
-constexpr QuirkRow kWMAArmorPrejudiceRows[] = {
+constexpr QuirkEntry kWMAArmorPrejudiceRows[] = {
     {379,   1,   5,  11, kMajorQuirk,      1, "Armor Prejudice: Robes/Garments"},
     {380,   6,  20,  11, kMajorQuirk,      1, "Armor Prejudice: Leather"},
     {381,  21,  35,  11, kMajorQuirk,      1, "Armor Prejudice: Padded"},
@@ -141,7 +141,7 @@ constexpr QuirkRow kWMAArmorPrejudiceRows[] = {
     {396,  97, 100,  11, kMajorQuirk,      1, "Armor Prejudice: Other/Unusual"},
 };
 
-constexpr QuirkRow kWMAWeaponPhobiaRows[] = {
+constexpr QuirkEntry kWMAWeaponPhobiaRows[] = {
     {397,   1,   4,   6, kMinorQuirk,      1, "Weapon Phobia: Battle Axe"},
     {398,   5,   6,   6, kMinorQuirk,      1, "Weapon Phobia: Short Bow"},
     {399,   7,   8,   6, kMinorQuirk,      1, "Weapon Phobia: Long Bow"},
@@ -172,7 +172,7 @@ constexpr QuirkRow kWMAWeaponPhobiaRows[] = {
 };
 
 // Kept slip: no row for 13-20 (the dagger of the phobia table is missing).
-constexpr QuirkRow kWMAWeaponPrejudiceMajorRows[] = {
+constexpr QuirkEntry kWMAWeaponPrejudiceMajorRows[] = {
     {424,   1,   4,   9, kMajorQuirk,      1, "Weapon Prejudice: Battle Axe"},
     {425,   5,   6,   9, kMajorQuirk,      1, "Weapon Prejudice: Short Bow"},
     {426,   7,   8,   9, kMajorQuirk,      1, "Weapon Prejudice: Long Bow"},
@@ -201,31 +201,31 @@ constexpr QuirkRow kWMAWeaponPrejudiceMajorRows[] = {
     {449,  95, 100,   9, kMajorQuirk,      1, "Weapon Prejudice: Whip"},
 };
 
-constexpr QuirkRow kWMAWeaponPrejudiceMinorRows[] = {
+constexpr QuirkEntry kWMAWeaponPrejudiceMinorRows[] = {
     {450,   1,   1,   4, kMinorQuirk,      1, "Weapon Prejudice: Hacking"},
     {451,   2,   2,   4, kMinorQuirk,      1, "Weapon Prejudice: Crushing"},
     {452,   3,   3,   4, kMinorQuirk,      1, "Weapon Prejudice: Puncturing"},
 };
 
-constexpr QuirkRow kWMAWeaponPrejudiceMajorMinorRows[] = {
+constexpr QuirkEntry kWMAWeaponPrejudiceMajorMinorRows[] = {
     {453,   1,   1,   0, kSubTable,        1, "Weapon Prejudice: Minor", "WMA Weapon Prejudice Minor"},
     {454,   2,   2,   0, kSubTable,        1, "Weapon Prejudice: Major", "WMA Weapon Prejudice Major"},
 };
 
-constexpr QuirkRow kWMARows[] = {
+constexpr QuirkEntry kWMARows[] = {
     {455,   0,   0,   0, kMinorQuirk,      1, "Animal Phobia [Mule]"},
     {456,   0,   0,   0, kMinorQuirk,      1, "Facial Burns"},
 };
 
-constexpr QuirkRow kSFMRows[] = {
+constexpr QuirkEntry kSFMRows[] = {
     {457,   0,   0,   0, kMinorQuirk,      1, "Poor Bargain Sense"},
 };
 
-constexpr QuirkRow kTTMRows[] = {
+constexpr QuirkEntry kTTMRows[] = {
     {458,   0,   0,   0, kMinorQuirk,      1, "Nicotine Addiction"},
 };
 
-constexpr QuirkRow kTG12Rows[] = {
+constexpr QuirkEntry kTG12Rows[] = {
     {459,   0,   0,   0, kMinorQuirk,      1, "Drinking Problem"},
     {460,   0,   0,   0, kMinorQuirk,      1, "Fool in Love"},
     {461,   0,   0,   0, kMinorQuirk,      1, "Idiot Savant"},
@@ -239,11 +239,11 @@ constexpr QuirkRow kTG12Rows[] = {
 };
 
 // Kept slip: the only row of its group that goes with the Warmonger's Almanac.
-constexpr QuirkRow kBadReputationRows[] = {
+constexpr QuirkEntry kBadReputationRows[] = {
     {466,   0,   0,   0, kMinorQuirk,      1, "Bad Reputation"},
 };
 
-constexpr QuirkRow kHexwrightsAlmanac6ARows[] = {
+constexpr QuirkEntry kHexwrightsAlmanac6ARows[] = {
     {479,   1,  10,   0, kSubTable,     kAny, "Roll on Table Adventurer's Codex 6B: Flaws, Minor (Physical)", kTable6B},
     {480,  11,  20,   0, kSubTable,     kAny, "Roll on Table Adventurer's Codex 6C: Flaws, Minor (Physical)", kTable6C},
     {481,  21,  29,   0, kSubTable,     kAny, "Roll on Table Adventurer's Codex 6D: Flaws, Minor (Physical)", kTable6D},
@@ -259,7 +259,7 @@ constexpr QuirkRow kHexwrightsAlmanac6ARows[] = {
     {489,  91, 100,   0, kSubTable,     kAny, "Roll on Table Hexwright's Almanac 6L", kTable6L},
 };
 
-constexpr QuirkRow kWarmongersAlmanac6ARows[] = {
+constexpr QuirkEntry kWarmongersAlmanac6ARows[] = {
     {490,   1,   9,   0, kSubTable,     kAny, "Roll on Table Adventurer's Codex 6B: Flaws, Minor (Physical)", kTable6B},
     {491,  10,  19,   0, kSubTable,     kAny, "Roll on Table Adventurer's Codex 6C: Flaws, Minor (Physical)", kTable6C},
     {492,  20,  31,   0, kSubTable,     kAny, "Roll on Table Adventurer's Codex 6D: Flaws, Minor (Physical)", kTable6D},
@@ -274,7 +274,7 @@ constexpr QuirkRow kWarmongersAlmanac6ARows[] = {
     {499,  89, 100,   0, kSubTable,     kAny, "Roll on Table Warmonger's Almanac 6N", kTable6N},
 };
 
-constexpr QuirkRow kSwindlersAlmanac6ARows[] = {
+constexpr QuirkEntry kSwindlersAlmanac6ARows[] = {
     {500,   1,   9,   0, kSubTable,     kAny, "Roll on Table Adventurer's Codex 6B: Flaws, Minor (Physical)", kTable6B},
     {501,  10,  19,   0, kSubTable,     kAny, "Roll on Table Adventurer's Codex 6C: Flaws, Minor (Physical)", kTable6C},
     {502,  20,  31,   0, kSubTable,     kAny, "Roll on Table Adventurer's Codex 6D: Flaws, Minor (Physical)", kTable6D},
@@ -290,7 +290,7 @@ constexpr QuirkRow kSwindlersAlmanac6ARows[] = {
     {509,  89, 100,   0, kSubTable,     kAny, "Roll on Table SWA 6R", kTable6R},
 };
 
-constexpr QuirkRow kSwindlersAlmanac6QRows[] = {
+constexpr QuirkEntry kSwindlersAlmanac6QRows[] = {
     {510,   1,  11,   8, kMajorQuirk,      1, "Arthritis"},
     {511,  12,  21,   6, kMinorQuirk,      1, "Big Hands"},
     {512,  22,  31,   7, kMinorQuirk,      1, "Club-Footed"},
@@ -303,7 +303,7 @@ constexpr QuirkRow kSwindlersAlmanac6QRows[] = {
     {519,  91, 100,   0, kSubTable,        1, "Suspicious Mannerism [type]", "SWA Suspicious Mannerism Table"},
 };
 
-constexpr QuirkRow kSwindlersAlmanac6RRows[] = {
+constexpr QuirkEntry kSwindlersAlmanac6RRows[] = {
     {520,   1,   7,  11, kMajorQuirk,      1, "Afraid of the Dark (SWA)"},
     {521,   8,  15,   7, kMinorQuirk,      1, "Anal Retentive"},
     {522,  16,  26,  10, kMajorQuirk,      1, "Attention Deficit Disorder"},
@@ -321,7 +321,7 @@ constexpr QuirkRow kSwindlersAlmanac6RRows[] = {
     {534,  95, 100,  10, kMajorQuirk,      1, "Whisperer"},
 };
 
-constexpr QuirkRow kSWAPreciousMetalAllergyTableRows[] = {
+constexpr QuirkEntry kSWAPreciousMetalAllergyTableRows[] = {
     {535,   1,   3,  11, kMajorQuirk,      1, "Precious Metal Allergy [Copper]"},
     {536,   4,   6,  11, kMajorQuirk,      1, "Precious Metal Allergy [Silver]"},
     {537,   7,  12,  11, kMajorQuirk,      1, "Precious Metal Allergy [Gold]"},
@@ -332,7 +332,7 @@ constexpr QuirkRow kSWAPreciousMetalAllergyTableRows[] = {
                                               "SWA Precious Metal Allergy Table", 2},
 };
 
-constexpr QuirkRow kSWASuspiciousMannerismTableRows[] = {
+constexpr QuirkEntry kSWASuspiciousMannerismTableRows[] = {
     {542,   2,   2,  15, kMajorQuirk,      1, "Suspicious Mannerism [Shifty Eyes]"},
     {543,   3,   3,  15, kMajorQuirk,      1, "Suspicious Mannerism [Hunched Shoulders]"},
     {544,   4,   4,  15, kMajorQuirk,      1, "Suspicious Mannerism [Dark Eyebrows]"},
@@ -350,7 +350,7 @@ constexpr QuirkRow kSWASuspiciousMannerismTableRows[] = {
     {556,  16,  16,  15, kMajorQuirk,      1, "Suspicious Mannerism [GM Choice]"},
 };
 
-constexpr QuirkRow kSWAPoorImpulseControlTableRows[] = {
+constexpr QuirkEntry kSWAPoorImpulseControlTableRows[] = {
     {557,   1,   3,   6, kMinorQuirk,      1, "Poor Impulse Control [Sex]"},
     {558,   4,   5,   6, kMinorQuirk,      1, "Poor Impulse Control [Gems]"},
     {559,   6,   7,   6, kMinorQuirk,      1, "Poor Impulse Control [Coins]"},
@@ -363,7 +363,7 @@ constexpr QuirkRow kSWAPoorImpulseControlTableRows[] = {
     {566,  19,  20,   6, kMinorQuirk,      1, "Poor Impulse Control [Musical Instruments]"},
 };
 
-constexpr QuirkRow kDevoteesAlmanac6ARows[] = {
+constexpr QuirkEntry kDevoteesAlmanac6ARows[] = {
     {567,   1,   9,   0, kRollAgain,    kAny, "Roll on Table Adventurer's Codex 6B: Flaws, Minor (Physical)"},
     {568,  10,  19,   0, kRollAgain,    kAny, "Roll on Table Adventurer's Codex 6C: Flaws, Minor (Physical)"},
     {569,  20,  31,   0, kRollAgain,    kAny, "Roll on Table Adventurer's Codex 6D: Flaws, Minor (Physical)"},
@@ -376,7 +376,7 @@ constexpr QuirkRow kDevoteesAlmanac6ARows[] = {
     {576,  89, 100,   0, kRollAgain,       1, "Roll on Table DVA 6P"},
 };
 
-constexpr QuirkRow kDevoteesAlmanac6ORows[] = {
+constexpr QuirkEntry kDevoteesAlmanac6ORows[] = {
     // Kept slip: leads to the convictions, so the goiter subtable is never rolled.
     {577,   1,  12,   4, kSubTable,        1, "Goiter", "DVA Unusual Convictions SubTable"},
     {578,  13,  25,   3, kMinorQuirk,      1, "Low Tolerance for Alcohol"},
@@ -389,13 +389,13 @@ constexpr QuirkRow kDevoteesAlmanac6ORows[] = {
 };
 
 // Kept slip: the first rows of the Devotee's Almanac table 6P stand under a name of their own and are never rolled.
-constexpr QuirkRow kDVA6PRows[] = {
+constexpr QuirkEntry kDVA6PRows[] = {
     {585,   1,   8,  20, kMajorQuirk,      1, "Atheist"},
     {586,   9,  17,   9, kMajorQuirk,      1, "Afraid of the Dark (DVA)"},
 };
 
 // Kept slip: with its rows 1-17 under another name the table starts at 18, so its die is 18d5 and 91-100 never come up.
-constexpr QuirkRow kDevoteesAlmanac6PRows[] = {
+constexpr QuirkEntry kDevoteesAlmanac6PRows[] = {
     {587,  18,  26,   5, kMinorQuirk,      1, "Bragart"},
     {588,  27,  35,  18, kMajorQuirk,      1, "Death Wish"},
     {589,  36,  44,   5, kMinorQuirk,      1, "Enabler"},
@@ -410,12 +410,12 @@ constexpr QuirkRow kDevoteesAlmanac6PRows[] = {
 };
 
 // Never rolled: row 577 leads elsewhere.
-constexpr QuirkRow kDVAGoiterSubTableRows[] = {
+constexpr QuirkEntry kDVAGoiterSubTableRows[] = {
     {597,   1,  50,   4, kMinorQuirk,      1, "Goiter: Hyperthyroidism"},
     {598,  51, 100,   4, kMinorQuirk,      1, "Goiter: Hypothyroidism"},
 };
 
-constexpr QuirkRow kDVAUnusualConvictionsSubTableRows[] = {
+constexpr QuirkEntry kDVAUnusualConvictionsSubTableRows[] = {
     {599,   1,   1,   4, kMinorQuirk,      1, "Unusual Convictions: Thinks the erdra is flat"},
     {600,   2,   2,   4, kMinorQuirk,      1, "Unusual Convictions: Believes all beggers are sacred agents of the "
                                               "gawds"},

@@ -11,7 +11,7 @@ namespace {
 
 //   row  low high   BP  kind           most  name, next table, its rolls, BP once held
 
-constexpr QuirkRow kAdventurersCodex6BRows[] = {
+constexpr QuirkEntry kAdventurersCodex6BRows[] = {
     {  1,   1,   9,   5, kMinorQuirk,      1, "Albino"},
     {  2,  10,  14,   7, kSubTable,     kAny, "Animal [type] Antipathy", "ADC Animal Antipathy Table"},
     {  3,  15,  23,   5, kMinorQuirk,      1, "Anosmia (loss of the sense of taste)"},
@@ -26,7 +26,7 @@ constexpr QuirkRow kAdventurersCodex6BRows[] = {
     { 12,  86, 100,   0, kRollAgain,    kAny, "Roll again on Table 6B and an extra time on Table 6D"},
 };
 
-constexpr QuirkRow kAdventurersCodex6CRows[] = {
+constexpr QuirkEntry kAdventurersCodex6CRows[] = {
     { 13,   1,   7,   6, kMinorQuirk,      2, "Loss of Ear"},
     { 14,   8,  13,   7, kMinorQuirk,      2, "Loss of Eye"},
     { 15,  14,  21,   5, kMinorQuirk,      1, "Male Pattern Baldness"},
@@ -43,7 +43,7 @@ constexpr QuirkRow kAdventurersCodex6CRows[] = {
     { 25,  86, 100,   0, kRollAgain,    kAny, "Roll again on Table 6C and an extra time on Table 6E"},
 };
 
-constexpr QuirkRow kAdventurersCodex6DRows[] = {
+constexpr QuirkEntry kAdventurersCodex6DRows[] = {
     { 26,   1,  10,   8, kMinorQuirk,      1, "Stutter"},
     { 27,  11,  30,   5, kMinorQuirk,      1, "Tone Deaf"},
     { 28,  31,  45,   7, kMinorQuirk,      1, "Vision Impaired, Far Sighted"},
@@ -53,7 +53,7 @@ constexpr QuirkRow kAdventurersCodex6DRows[] = {
     { 32,  91, 100,   0, kRollAgain,    kAny, "Roll on Table 6E (Flaws, Major)"},
 };
 
-constexpr QuirkRow kAdventurersCodex6ERows[] = {
+constexpr QuirkEntry kAdventurersCodex6ERows[] = {
     { 33,   1,   6,  11, kMajorQuirk,      1, "Accident Prone"},
     { 34,   7,  12,  11, kSubTable,       99, "Acute Allergies", "ADC Allergen Table"},
     { 35,  13,  17,  15, kMajorQuirk,      1, "Amputee, Arm"},
@@ -74,7 +74,7 @@ constexpr QuirkRow kAdventurersCodex6ERows[] = {
     { 50,  91, 100,   0, kRollAgain,    kAny, "Roll once on Table 6E and once on Table 6B"},
 };
 
-constexpr QuirkRow kAdventurersCodex6FRows[] = {
+constexpr QuirkEntry kAdventurersCodex6FRows[] = {
     { 51,   1,   5,   9, kMinorQuirk,      1, "Absent Minded"},
     { 52,   6,   8,  10, kMinorQuirk,      1, "Acrophobia (fear of heights)"},
     { 53,   9,  11,  10, kMinorQuirk,      1, "Agoraphobia (fear of open spaces)"},
@@ -97,7 +97,7 @@ constexpr QuirkRow kAdventurersCodex6FRows[] = {
     { 70,  96, 100,   0, kRollAgain,    kAny, "Roll again on Table 6F and an extra time on Table 6H"},
 };
 
-constexpr QuirkRow kAdventurersCodex6GRows[] = {
+constexpr QuirkEntry kAdventurersCodex6GRows[] = {
     { 71,   1,   4,   0, kSubTable,       10, "Delusional (Major)    ", "ADC Delusion Table Major"},
     { 72,   5,   7,  16, kMajorQuirk,      1, "Depression (Major)"},
     { 73,   8,  13,  13, kRefereeQuirk,    1, "Enmity toward [class]", "ADC Class Enmity Table"},
@@ -115,7 +115,7 @@ constexpr QuirkRow kAdventurersCodex6GRows[] = {
     { 85,  91, 100,   0, kRollAgain,    kAny, "Roll again on Table 6G and an extra time on Table 6H"},
 };
 
-constexpr QuirkRow kAdventurersCodex6HRows[] = {
+constexpr QuirkEntry kAdventurersCodex6HRows[] = {
     { 86,   1,   8,   6, kMinorQuirk,      1, "Chronic Liar"},
     { 87,   9,  17,   5, kMinorQuirk,      1, "Clingy"},
     { 88,  18,  30,   5, kMinorQuirk,      1, "Glutton"},
@@ -132,14 +132,14 @@ constexpr QuirkRow kAdventurersCodex6HRows[] = {
     { 99,  96, 100,   0, kRollAgain,    kAny, "Roll again on Table 6H and an extra time on Table 6G"},
 };
 
-constexpr QuirkRow kAdventurersCodex6IRows[] = {
+constexpr QuirkEntry kAdventurersCodex6IRows[] = {
     {100,   1,  35,   0, kSubTable,      100, "Multiple Personalities [type]", "ADC Extra Personality Table"},
     {101,  36,  70,  11, kMajorQuirk,      1, "Truthful"},
     {102,  71,  85,   0, kRollAgain,    kAny, "Roll twice on Table 6H"},
     {103,  86, 100,   0, kRollAgain,    kAny, "Roll twice on Table 6G"},
 };
 
-constexpr QuirkRow kADCAnimalAntipathyTableRows[] = {
+constexpr QuirkEntry kADCAnimalAntipathyTableRows[] = {
     {104,   1,   2,   7, kMinorQuirk,      1, "Animal Antipathy [horse]"},
     {105,   3,   4,   7, kMinorQuirk,      1, "Animal Antipathy [dog]"},
     {106,   5,   6,   7, kMinorQuirk,      1, "Animal Antipathy [cat]"},
@@ -152,7 +152,7 @@ constexpr QuirkRow kADCAnimalAntipathyTableRows[] = {
     {113,  19,  20,   7, kMinorQuirk,     99, "Animal Antipathy [GM's choice]"},
 };
 
-constexpr QuirkRow kADCMaimedTableRows[] = {
+constexpr QuirkEntry kADCMaimedTableRows[] = {
     {114,   1,   1,  11, kMajorQuirk,      1, "Maimed: Severe facial burn or scarring"},
     {115,   2,   2,  11, kMajorQuirk,      1, "Maimed: Misshapen head"},
     {116,   3,   3,   0, kSubTable,        1, "Maimed: Roll again (1-3) Fingers webbed, (4-6) extra finger",
@@ -163,17 +163,17 @@ constexpr QuirkRow kADCMaimedTableRows[] = {
                                               "the Maimed Table"},
 };
 
-constexpr QuirkRow kADCMaimedSubtableRows[] = {
+constexpr QuirkEntry kADCMaimedSubtableRows[] = {
     {117,   1,   3,  11, kMajorQuirk,      1, "Maimed: Fingers Webbed"},
     {118,   4,   6,  11, kMajorQuirk,     99, "Maimed: Extra Finger"},
 };
 
-constexpr QuirkRow kADCSeizureTableRows[] = {
+constexpr QuirkEntry kADCSeizureTableRows[] = {
     {122,   1,  60,  20, kMajorQuirk,      1, "Seizure, Disorder (Epilepsy), Grand Mal"},
     {123,  61, 100,  12, kMinorQuirk,      1, "Seizure, Disorder (Epilepsy), Minor"},
 };
 
-constexpr QuirkRow kADCAnimalPhobiaTableRows[] = {
+constexpr QuirkEntry kADCAnimalPhobiaTableRows[] = {
     {124,   1,   2,   9, kMinorQuirk,      1, "Animal Phobia [horse]"},
     {125,   3,   4,   9, kMinorQuirk,      1, "Animal Phobia [dog]"},
     {126,   5,   6,   9, kMinorQuirk,      1, "Animal Phobia [cat]"},
@@ -186,7 +186,7 @@ constexpr QuirkRow kADCAnimalPhobiaTableRows[] = {
     {133,  19,  20,   9, kMinorQuirk,      1, "Animal Phobia [cattle]"},
 };
 
-constexpr QuirkRow kADCDelusionTableMajorRows[] = {
+constexpr QuirkEntry kADCDelusionTableMajorRows[] = {
     {134,   1,   1,  15, kMajorQuirk,      1, "Delusional (Major): Character thinks he is an animal and behaves like "
                                               "one."},
     {136,   2,   2,  15, kMajorQuirk,      1, "Delusional (Major): Character thinks he can fly, and often tries."},
@@ -203,7 +203,7 @@ constexpr QuirkRow kADCDelusionTableMajorRows[] = {
     {152,  10,  10,  15, kMajorQuirk,      1, "Delusional (Major): Character thinks he can tame monsters, and tries."},
 };
 
-constexpr QuirkRow kADCDelusionTableMinorRows[] = {
+constexpr QuirkEntry kADCDelusionTableMinorRows[] = {
     {135,   1,   1,  10, kMinorQuirk,      1, "Delusional (Minor): Character thinks animals are people and talks to "
                                               "them."},
     {137,   2,   2,  10, kMinorQuirk,      1, "Delusional (Minor): Character thinks other people can fly and often "
@@ -224,7 +224,7 @@ constexpr QuirkRow kADCDelusionTableMinorRows[] = {
     {153,  10,  10,  10, kMinorQuirk,      1, "Delusional (Minor): Character thinks he has a tame monster for a pet."},
 };
 
-constexpr QuirkRow kADCClassEnmityTableRows[] = {
+constexpr QuirkEntry kADCClassEnmityTableRows[] = {
     {154,   1,   1,  13, kMajorQuirk,      1, "Enmity Toward [Barbarian]"},
     {155,   2,   2,  13, kMajorQuirk,      1, "Enmity Toward [Bard]"},
     {156,   3,   3,  13, kMajorQuirk,      1, "Enmity Toward [Cleric]"},
@@ -248,7 +248,7 @@ constexpr QuirkRow kADCClassEnmityTableRows[] = {
     {173,   1,   1,  13, kRollAgain,       1, "Roll twice, ignoring this result."},
 };
 
-constexpr QuirkRow kADCRacialEnmityTableRows[] = {
+constexpr QuirkEntry kADCRacialEnmityTableRows[] = {
     {174,   1,   1,  13, kMajorQuirk,      1, "Enmity Toward [Dwarf]"},
     {175,   2,   2,  13, kMajorQuirk,      1, "Enmity Toward [Elf]"},
     {176,   3,   3,  13, kMajorQuirk,      1, "Enmity Toward [Gnome]"},
@@ -261,12 +261,12 @@ constexpr QuirkRow kADCRacialEnmityTableRows[] = {
     {183,  10,  10,  13, kMajorQuirk,      1, "Enmity Toward [Human]"},
 };
 
-constexpr QuirkRow kADCObsessionORCompulsionRows[] = {
+constexpr QuirkEntry kADCObsessionORCompulsionRows[] = {
     {184,   1,   1,   0, kSubTable,        1, "Obsession    ", "ADC Obsession"},
     {470,   2,   2,   0, kSubTable,        1, "Compulsion    ", "ADC Compulsion"},
 };
 
-constexpr QuirkRow kADCObsessionRows[] = {
+constexpr QuirkEntry kADCObsessionRows[] = {
     {185,   1,   1,  10, kMinorQuirk,      1, "Obsessed with members of opposite sex."},
     {186,   2,   2,  10, kMinorQuirk,      1, "Obsessed with numbers."},
     {187,   3,   3,  10, kMinorQuirk,      1, "Obsessed with clothing."},
@@ -289,7 +289,7 @@ constexpr QuirkRow kADCObsessionRows[] = {
     {204,  20,  20,   0, kRollAgain,       1, "Roll again."},
 };
 
-constexpr QuirkRow kADCCompulsionRows[] = {
+constexpr QuirkEntry kADCCompulsionRows[] = {
     {205,   1,   1,  10, kMinorQuirk,      1, "Compulsion to kiss members of opposite sex."},
     {206,   2,   2,  10, kMinorQuirk,      1, "Compulsion to count everything."},
     {207,   3,   3,  10, kMinorQuirk,      1, "Compulsion to buy clothing."},
@@ -313,7 +313,7 @@ constexpr QuirkRow kADCCompulsionRows[] = {
     {224,  20,  20,   0, kRollAgain,       1, "Roll again"},
 };
 
-constexpr QuirkRow kADCClassAversionTableRows[] = {
+constexpr QuirkEntry kADCClassAversionTableRows[] = {
     {225,   1,   1,  11, kMajorQuirk,      1, "Psychotic Aversion to [Barbarian]"},
     {226,   2,   2,  11, kMajorQuirk,      1, "Psychotic Aversion to [Bard]"},
     {227,   3,   3,  11, kMajorQuirk,      1, "Psychotic Aversion to [Cleric]"},
@@ -337,7 +337,7 @@ constexpr QuirkRow kADCClassAversionTableRows[] = {
     {244,   1,   1,  11, kRollAgain,       1, "Roll twice, ignoring this result."},
 };
 
-constexpr QuirkRow kADCRacialAversionTableRows[] = {
+constexpr QuirkEntry kADCRacialAversionTableRows[] = {
     {245,   1,   1,  11, kMajorQuirk,      1, "Psychotic Aversion to [Dwarf]"},
     {246,   2,   2,  11, kMajorQuirk,      1, "Psychotic Aversion to [Elf]"},
     {247,   3,   3,  11, kMajorQuirk,      1, "Psychotic Aversion to [Gnome]"},
@@ -352,7 +352,7 @@ constexpr QuirkRow kADCRacialAversionTableRows[] = {
     {254,  10,  10,  11, kMajorQuirk,      1, "Psychotic Aversion to [Human]"},
 };
 
-constexpr QuirkRow kADCSuperstitionsTableRows[] = {
+constexpr QuirkEntry kADCSuperstitionsTableRows[] = {
     {255,   1,   1,  10, kMinorQuirk,      1, "Superstitious: Believes a certain color is unlucky."},
     {256,   2,   2,  10, kMinorQuirk,      1, "Superstitious: Believes a certain color is lucky."},
     {257,   3,   3,  10, kMinorQuirk,      1, "Superstitious: Thinks the Erdra is flat."},
@@ -382,7 +382,7 @@ constexpr QuirkRow kADCSuperstitionsTableRows[] = {
     {274,  20,  20,  10, kSubTable,        1, "Has two superstitions. Roll again and ignore this result."},
 };
 
-constexpr QuirkRow kADCExtraPersonalityTableRows[] = {
+constexpr QuirkEntry kADCExtraPersonalityTableRows[] = {
     {275,   1,   4,  11, kMajorQuirk,   kAny, "Multiple Personality Disorder: Young member of the opposite sex.",
                                               {}, 0, 5},
     {276,   5,   8,  11, kMajorQuirk,   kAny, "Multiple Personality Disorder: Elderly member of the opposite sex.",
@@ -412,7 +412,7 @@ constexpr QuirkRow kADCExtraPersonalityTableRows[] = {
                                               "ADC Extra Personality Table", 2},
 };
 
-constexpr QuirkRow kADCAllergenTableRows[] = {
+constexpr QuirkEntry kADCAllergenTableRows[] = {
     {296,   1,   2,  11, kMajorQuirk,      1, "Acute Allergies [food]"},
     {297,   3,   4,  11, kMajorQuirk,      1, "Acute Allergies [cloth]"},
     {298,   5,   6,  11, kMajorQuirk,      1, "Acute Allergies [wood]"},
@@ -426,7 +426,7 @@ constexpr QuirkRow kADCAllergenTableRows[] = {
                                               "ADC Allergen Table", 2},
 };
 
-constexpr QuirkRow kAdventurersCodex6ARows[] = {
+constexpr QuirkEntry kAdventurersCodex6ARows[] = {
     {471,   1,  14,   0, kSubTable,     kAny, "Roll on Table Adventurer's Codex 6B: Flaws, Minor (Physical)", kTable6B},
     {472,  15,  28,   0, kSubTable,     kAny, "Roll on Table Adventurer's Codex 6C: Flaws, Minor (Physical)", kTable6C},
     {473,  29,  42,   0, kSubTable,     kAny, "Roll on Table Adventurer's Codex 6D: Flaws, Minor (Physical)", kTable6D},

@@ -38,7 +38,7 @@ QuirkRecord& At(Catalogue& catalogue, int row) {
 }
 
 void AddGroup(Catalogue& catalogue, const QuirkRowGroup& group) {
-  for (const QuirkRow& row : group.Rows) {
+  for (const QuirkEntry& row : group.Rows) {
     QuirkRecord& record = At(catalogue, row.Row);
     record.Name = row.Name;
     record.BPCost = row.BPCost;

@@ -44,7 +44,7 @@ constexpr RaceNotes kHalflingNotes = {
 constexpr std::array<RaceEntry, kRaceKinds> kRaces = {{
 {
   .Name = "Dwarf",
-  .RuleSwitch = 0,
+  .RuleSwitch = kCoreRules,
   .Numbers = {{
     // gender, size class, movement, STR DEX CON INT WIS CHA COM, modifiers, BP, legitimacy, birth, age, height, weight
     {"Male",   1, 6, "8-18 3-17 12-19 3-18 3-18 3-16 3-15", "0 0 1 0 0 -1 -1", 10, 5, 15, "40+5d6", "43+1d10", "130+4d10"},
@@ -87,7 +87,7 @@ constexpr std::array<RaceEntry, kRaceKinds> kRaces = {{
 },
 {
   .Name = "Elf, Drow",
-  .RuleSwitch = 0,
+  .RuleSwitch = kCoreRules,
   .Numbers = {{
     // gender, size class, movement, STR DEX CON INT WIS CHA COM, modifiers, BP, legitimacy, birth, age, height, weight
     {"Male",   2, 0, "3-18 7-19 6-18 8-18 3-18 3-18 5-18", "0 1 -1 0 0 0 -2", 13, 5, 15, "100+5d6", "55+1d10", "90+4d10"},
@@ -134,7 +134,7 @@ constexpr std::array<RaceEntry, kRaceKinds> kRaces = {{
 },
 {
   .Name = "Elf, Grey",
-  .RuleSwitch = 0,
+  .RuleSwitch = kCoreRules,
   .Numbers = {{
     // gender, size class, movement, STR DEX CON INT WIS CHA COM, modifiers, BP, legitimacy, birth, age, height, weight
     {"Male",   2, 12, "3-18 7-19 6-18 8-18 3-18 3-18 5-18", "0 0 -1 1 0 0 2", 12, -8, 25, "100+5d6", "55+1d10", "90+4d10"},
@@ -162,7 +162,7 @@ constexpr std::array<RaceEntry, kRaceKinds> kRaces = {{
 },
 {
   .Name = "Elf, High",
-  .RuleSwitch = 0,
+  .RuleSwitch = kCoreRules,
   .Numbers = {{
     // gender, size class, movement, STR DEX CON INT WIS CHA COM, modifiers, BP, legitimacy, birth, age, height, weight
     {"Male",   2, 12, "3-18 7-19 6-18 8-18 3-18 3-18 5-18", "0 1 -1 0 0 0 2", 12, -5, 20, "100+5d6", "55+1d10", "90+4d10"},
@@ -189,7 +189,7 @@ constexpr std::array<RaceEntry, kRaceKinds> kRaces = {{
 },
 {
   .Name = "Elf, Wood",
-  .RuleSwitch = 0,
+  .RuleSwitch = kCoreRules,
   .Numbers = {{
     // gender, size class, movement, STR DEX CON INT WIS CHA COM, modifiers, BP, legitimacy, birth, age, height, weight
     {"Male",   2, 12, "3-18 7-19 6-18 8-18 3-18 3-18 5-18", "1 1 -1 -1 0 0 1", 12, -5, 10, "100+5d6", "55+1d10", "90+4d10"},
@@ -216,7 +216,7 @@ constexpr std::array<RaceEntry, kRaceKinds> kRaces = {{
 },
 {
   .Name = "Elf, Grel",
-  .RuleSwitch = 0,
+  .RuleSwitch = kCoreRules,
   .Numbers = {{
     // gender, size class, movement, STR DEX CON INT WIS CHA COM, modifiers, BP, legitimacy, birth, age, height, weight
     {"Male",   2, 12, "3-18 7-19 6-18 8-18 3-18 3-18 5-18", "0 1 -1 0 0 0 -1", 13, 10, -20, "100+5d6", "55+1d10", "90+4d10"},
@@ -258,7 +258,7 @@ constexpr std::array<RaceEntry, kRaceKinds> kRaces = {{
 },
 {
   .Name = "Gnome Titan",
-  .RuleSwitch = 0,
+  .RuleSwitch = kCoreRules,
   .Numbers = {{
     // gender, size class, movement, STR DEX CON INT WIS CHA COM, modifiers, BP, legitimacy, birth, age, height, weight
     {"Male",   1, 6, "6-18 3-18 8-18 7-18 3-18 3-18 3-17", "2 0 0 1 -1 0 -1", 15, 5, 0, "60+3d12", "38+1d6", "72+5d4"},
@@ -307,7 +307,7 @@ constexpr std::array<RaceEntry, kRaceKinds> kRaces = {{
 },
 {
   .Name = "Gnomeling",
-  .RuleSwitch = 0,
+  .RuleSwitch = kCoreRules,
   .Numbers = {{
     // gender, size class, movement, STR DEX CON INT WIS CHA COM, modifiers, BP, legitimacy, birth, age, height, weight
     {"Male",   1, 4, "6-17 5-18 9-18 6-18 3-17 3-18 3-17", "-1 1 -1 1 -1 0 0", 10, -5, 15, "40+2d12", "32+1d6", "46+2d4"},
@@ -351,7 +351,7 @@ constexpr std::array<RaceEntry, kRaceKinds> kRaces = {{
 },
 {
   .Name = "Gnome",
-  .RuleSwitch = 0,
+  .RuleSwitch = kCoreRules,
   .Numbers = {{
     // gender, size class, movement, STR DEX CON INT WIS CHA COM, modifiers, BP, legitimacy, birth, age, height, weight
     {"Male",   1, 6, "6-18 3-18 8-18 7-18 3-18 3-18 3-17", "0 0 0 1 -1 0 -1", 10, -5, 15, "60+3d12", "38+1d6", "72+5d4"},
@@ -392,7 +392,7 @@ constexpr std::array<RaceEntry, kRaceKinds> kRaces = {{
 },
 {
   .Name = "Half-elf",
-  .RuleSwitch = 0,
+  .RuleSwitch = kCoreRules,
   .Numbers = {{
     // gender, size class, movement, STR DEX CON INT WIS CHA COM, modifiers, BP, legitimacy, birth, age, height, weight
     {"Male",   2, 12, "3-18 6-18 6-18 4-18 3-18 3-18 5-17", "0 0 0 0 0 0 1", 11, 15, 0, "15+1d6", "60+2d6", "110+3d12"},
@@ -426,7 +426,7 @@ constexpr std::array<RaceEntry, kRaceKinds> kRaces = {{
 },
 {
   .Name = "Halfling, Hairfoot",
-  .RuleSwitch = 0,
+  .RuleSwitch = kCoreRules,
   .Numbers = {{
     // gender, size class, movement, STR DEX CON INT WIS CHA COM, modifiers, BP, legitimacy, birth, age, height, weight
     {"Male",   1, 6, "6-17 7-18 10-19 6-18 3-17 3-18 3-18", "-1 1 0 0 0 0 0", 11, -5, 10, "20+3d4", "32+2d8", "52+5d4"},
@@ -452,7 +452,7 @@ constexpr std::array<RaceEntry, kRaceKinds> kRaces = {{
 },
 {
   .Name = "Halfling, Stout",
-  .RuleSwitch = 0,
+  .RuleSwitch = kCoreRules,
   .Numbers = {{
     // gender, size class, movement, STR DEX CON INT WIS CHA COM, modifiers, BP, legitimacy, birth, age, height, weight
     {"Male",   1, 6, "6-17 7-18 10-19 6-18 3-17 3-18 3-18", "-1 1 0 0 0 0 0", 11, -5, 10, "20+3d4", "32+2d8", "52+5d4"},
@@ -478,7 +478,7 @@ constexpr std::array<RaceEntry, kRaceKinds> kRaces = {{
 },
 {
   .Name = "Halfling, Tallfellow",
-  .RuleSwitch = 0,
+  .RuleSwitch = kCoreRules,
   .Numbers = {{
     // gender, size class, movement, STR DEX CON INT WIS CHA COM, modifiers, BP, legitimacy, birth, age, height, weight
     {"Male",   1, 6, "6-17 7-18 10-19 6-18 3-17 3-18 3-18", "-1 1 0 0 0 0 0", 11, -5, 10, "20+3d4", "32+2d8", "52+5d4"},
@@ -504,7 +504,7 @@ constexpr std::array<RaceEntry, kRaceKinds> kRaces = {{
 },
 {
   .Name = "Halfling, Thug",
-  .RuleSwitch = 0,
+  .RuleSwitch = kCoreRules,
   .Numbers = {{
     // gender, size class, movement, STR DEX CON INT WIS CHA COM, modifiers, BP, legitimacy, birth, age, height, weight
     {"Male",   1, 6, "6-17 7-18 10-19 6-18 3-17 3-18 3-18", "-1 2 0 0 -1 0 0", 11, -5, 10, "20+3d4", "32+2d8", "52+5d4"},
@@ -530,7 +530,7 @@ constexpr std::array<RaceEntry, kRaceKinds> kRaces = {{
 },
 {
   .Name = "Half-ogre",
-  .RuleSwitch = 0,
+  .RuleSwitch = kCoreRules,
   .Numbers = {{
     // gender, size class, movement, STR DEX CON INT WIS CHA COM, modifiers, BP, legitimacy, birth, age, height, weight
     {"Male",   3, 12, "14-19 3-17 14-19 3-17 3-15 2-11 -25-12", "2 0 2 -2 -1 -3 -5", 8, 35, -40, "13+2d4", "84+2d6", "315+1d100"},
@@ -569,7 +569,7 @@ constexpr std::array<RaceEntry, kRaceKinds> kRaces = {{
 },
 {
   .Name = "Half-orc",
-  .RuleSwitch = 0,
+  .RuleSwitch = kCoreRules,
   .Numbers = {{
     // gender, size class, movement, STR DEX CON INT WIS CHA COM, modifiers, BP, legitimacy, birth, age, height, weight
     {"Male",   2, 12, "6-18 3-17 13-19 3-17 3-14 3-12 3-12", "1 0 1 0 0 -2 -2", 8, 25, -30, "15+1d3", "66+1d4", "150+4d10"},
@@ -603,7 +603,7 @@ constexpr std::array<RaceEntry, kRaceKinds> kRaces = {{
 },
 {
   .Name = "Human",
-  .RuleSwitch = 0,
+  .RuleSwitch = kCoreRules,
   .Numbers = {{
     // gender, size class, movement, STR DEX CON INT WIS CHA COM, modifiers, BP, legitimacy, birth, age, height, weight
     {"Male",   2, 12, "3-18 3-18 3-18 3-18 3-18 3-18 3-18", "0 0 0 0 0 0 0", 10, 0, 0, "15+1d4", "60+2d10", "140+6d10"},
@@ -634,7 +634,7 @@ constexpr std::array<RaceEntry, kRaceKinds> kRaces = {{
 },
 {
   .Name = "Pixie Fairy",
-  .RuleSwitch = 0,
+  .RuleSwitch = kCoreRules,
   .Numbers = {{
     // gender, size class, movement, STR DEX CON INT WIS CHA COM, modifiers, BP, legitimacy, birth, age, height, weight
     {"Male",   0, 6, "1-14 12-19 7-14 8-19 3-19 8-19 8-19", "-6 2 0 1 1 2 3", 14, 15, 50, "2+1d3", "18+1d4", "24+1d6"},
@@ -681,7 +681,7 @@ constexpr std::array<RaceEntry, kRaceKinds> kRaces = {{
 },
 {
   .Name = "Darkmen",
-  .RuleSwitch = 12,
+  .RuleSwitch = kTitanTrilogyModule,
   .Numbers = {{
     // gender, size class, movement, STR DEX CON INT WIS CHA COM, modifiers, BP, legitimacy, birth, age, height, weight
     {"Male",   2, 12, "3-18 6-18 6-18 4-18 3-18 3-18 5-17", "0 0 0 0 0 0 -1", 10, 15, 0, "15+1d6", "60+2d6", "110+3d12"},

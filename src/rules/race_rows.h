@@ -7,6 +7,7 @@
 #include "rules/class_table.h"
 #include "rules/notation.h"
 #include "rules/race_table.h"
+#include "rules/rule_switches.h"
 #include "rules/talent_table.h"
 
 // A race as the game book prints it: what race_table.cpp expands into the two records of its genders. No part of an

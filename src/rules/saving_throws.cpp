@@ -5,6 +5,7 @@
 #include <cstddef>
 
 #include "rules/class_table.h"
+#include "rules/named_rows.h"
 #include "rules/notation.h"
 #include "text/numbers.h"
 
@@ -15,8 +16,6 @@ namespace {
 constexpr int kTables = 5;
 constexpr int kLevels = 20;
 constexpr int kColumns = 6;
-constexpr int kBarbarianRow = 4;
-constexpr int kPaladinRow = 10;
 
 // clang-format off
 
@@ -105,10 +104,10 @@ bool ReadClassSaves(int classRow, int level, std::span<int, kSaveCount> saves) {
   for (int save = 0; save < kSaveCount; ++save) {
     const auto at = static_cast<std::size_t>(save);
     saves[at] = SavingThrow(record.SaveTable, AddSaturated(level, record.SaveLevelShift), save);
-    if (classRow == kBarbarianRow) saves[at] -= kBarbarianBonus[at];
-    if (classRow == kPaladinRow && save != kSaveApology) saves[at] -= kPaladinBonus;
+    if (classRow == ClassRow::Barbarian) saves[at] -= kBarbarianBonus[at];
+    if (classRow == ClassRow::Paladin && save != kSaveApology) saves[at] -= kPaladinBonus;
   }
-  if (classRow == kBarbarianRow) saves[kSaveSpells] -= level / 4;
+  if (classRow == ClassRow::Barbarian) saves[kSaveSpells] -= level / 4;
   return true;
 }
 

@@ -35,10 +35,10 @@ constexpr PriceRule kSkillPriceRules[] = {
   {{.IsMage = 1},                         {.Category = SkillCategory::Academia}, kHalved},
   {{.NotRace = kGnomeTitan, .IsMage = 1}, {.Category = SkillCategory::Combat}, kDoubled},
   {{.Race = kGnomeTitan, .IsMage = 0},    {.Category = SkillCategory::Combat}, kHalved},
-  {{.LevelIn = {115}}, /* Sea Dawgs */    {.Names = "Mingling (Balls, Parties) | Shipwright Skill Suite"}, Becomes(5)},
-  {{.LevelIn = {108}}, /* Thunorite */    {.Names = "Mingling (Balls, Parties) | Mortal Combat"}, Less(2)},
-  {{.LevelIn = {107}}, /* Ardorheart */   {.Names = "Mingling (Balls, Parties) | Divine Lore"}, Less(1)},
-  {{.LevelIn = {99}}, /* Pangrite */      {.Names = "Engineering: Fortifications | Leadership: Basic | "
+  {{.LevelIn = {ClassRow::SeaDawg}},      {.Names = "Mingling (Balls, Parties) | Shipwright Skill Suite"}, Becomes(5)},
+  {{.LevelIn = {ClassRow::Thunorite}},    {.Names = "Mingling (Balls, Parties) | Mortal Combat"}, Less(2)},
+  {{.LevelIn = {ClassRow::Ardorheart}},   {.Names = "Mingling (Balls, Parties) | Divine Lore"}, Less(1)},
+  {{.LevelIn = {ClassRow::Pangrite}},     {.Names = "Engineering: Fortifications | Leadership: Basic | "
                                                     "Military: Battle Sense | Military: Leadership | "
                                                     "Military: Operations | Military: Small Unit Tactics | "
                                                     "Armorer | Armor Repair, Basic | Armor Repair, Advanced | "
@@ -47,20 +47,20 @@ constexpr PriceRule kSkillPriceRules[] = {
                                                     "Shield Repair, Metal | Shield Repair, Wood | Distraction | "
                                                     "Feint | Improve Cover | Improved Overbearing | "
                                                     "Improved Subdual | Weaponsmithing"}, Less(1)},
-  {{.LevelIn = {113}}, /* Gangites */     {.Names = "Divine Lore | Crane | Mocking Jig | Manu Weasel Dance"}, Less(1)},
-  {{.LevelIn = {105}}, /* Shonite */      {.Names = "Crane | Cricket-in-the-Pea-Pod | Eye of the Tiger Advantage | "
+  {{.LevelIn = {ClassRow::Gangite}},      {.Names = "Divine Lore | Crane | Mocking Jig | Manu Weasel Dance"}, Less(1)},
+  {{.LevelIn = {ClassRow::Shonite}},      {.Names = "Crane | Cricket-in-the-Pea-Pod | Eye of the Tiger Advantage | "
                                                     "Kidney Bruiser | Mortal Combat",
                                            .Range = {SkillRow::FirstMartialStyle, SkillRow::LastMartialTraining}},
    kHalved},
-  {{.LevelIn = {106}}, /* Toiler */       {.Names = "Armorer | Shield Repair, Metal | Shield Repair, Wood | "
+  {{.LevelIn = {ClassRow::Toiler}},       {.Names = "Armorer | Shield Repair, Metal | Shield Repair, Wood | "
                                                     "Weaponsmithing"}, Less(2)},
-  {{.LevelIn = {109}}, /* Skite */        {.Names = "Divine Lore | Clever Packer | Mapless Travel | "
+  {{.LevelIn = {ClassRow::Skite}},        {.Names = "Divine Lore | Clever Packer | Mapless Travel | "
                                                     "Survival Skill Suite | Survival, Desert | Survival, Jungle | "
                                                     "Survival, Underground | Survival, Winter"}, Less(1)},
-  {{.LevelIn = {77}}, /* Droog */         {.Names = "Liar, Skilled"}, Becomes(2)},
-  {{.LevelIn = {91}}, /* Scale */         {.Names = "Poker Face", .NotHeld = true}, Becomes(1)},
-  {{.LevelIn = {41}}, /* Power Speaker */ {.Category = SkillCategory::Language}, kHalved},
-  {{.LevelIn = {46}}, /* Hypnotist */     {.Names = "Dragon Speak"}, kHalved},
+  {{.LevelIn = {ClassRow::Droog}},        {.Names = "Liar, Skilled"}, Becomes(2)},
+  {{.LevelIn = {ClassRow::Scale}},        {.Names = "Poker Face", .NotHeld = true}, Becomes(1)},
+  {{.LevelIn = {ClassRow::PowerSpeaker}}, {.Category = SkillCategory::Language}, kHalved},
+  {{.LevelIn = {ClassRow::Hypnotist}},    {.Names = "Dragon Speak"}, kHalved},
   {{.Race = kGnomeTitan},                 {.NameHolding = "Military"}, kHalved},
 };
 
@@ -76,7 +76,7 @@ constexpr PriceRule kFamilyPriceRules[] = {
   {{.NotRace = kGnomeTitan, .IsMage = 1}, {.Category = SkillCategory::Combat}, kDoubled},
   {{.Race = kGnomeTitan, .IsMage = 0},    {.Category = SkillCategory::Combat}, kHalved},
   {{.Race = kGnomeTitan},                 {.NameHolding = "Military"}, kHalved},
-  {{.LevelIn = {41}}, /* Power Speaker */ {.Names = "Reading/Writing"}, kHalved},
+  {{.LevelIn = {ClassRow::PowerSpeaker}}, {.Names = "Reading/Writing"}, kHalved},
 };
 
 struct PackageList {
@@ -109,15 +109,15 @@ struct ExtraRollRule {
 // missing rule of the myrmidon (military leadership, operations, small unit tactics: 1, 1): it was held against the
 // skill's name in place of the package's, and nobody ever had it.
 constexpr ExtraRollRule kExtraRollRules[] = {
-  {{.LevelIn = {86}}, /* Peacenik */      {.Names = "Diplomacy"}, 2, 0},
-  {{.LevelIn = {77}}, /* Droog */         {.Names = "Dragon Speak | Liar, Skilled | Orchestrate Task"}, 1, 1},
-  {{.LevelIn = {74}}, /* Expounder */     {.Names = "Astrology"}, 2, 2},
-  {{.LevelIn = {65}}, /* Swashbuckler */  {.Category = SkillCategory::Social,
+  {{.LevelIn = {ClassRow::Peacenik}},     {.Names = "Diplomacy"}, 2, 0},
+  {{.LevelIn = {ClassRow::Droog}},        {.Names = "Dragon Speak | Liar, Skilled | Orchestrate Task"}, 1, 1},
+  {{.LevelIn = {ClassRow::Expounder}},    {.Names = "Astrology"}, 2, 2},
+  {{.LevelIn = {ClassRow::Swashbuckler}}, {.Category = SkillCategory::Social,
                                            .Except = "Feign Toughness | Flex Muscle | Intimidation | "
                                                      "Street Cred"}, 1, 1},
-  {{.LevelIn = {65}},                     {.Names = "Tumbling"}, 1, 1},
-  {{.LevelIn = {62, 121}}, /* Pirates */  {.Names = "Tightrope Walking | Weather Sense"}, 1, 1},
-  {{.LevelIn = {60}}, /* Bounty Hunter */ {.Names = "Berate | Feign Toughness | Flex Muscle | Glean Information | "
+  {{.LevelIn = {ClassRow::Swashbuckler}}, {.Names = "Tumbling"}, 1, 1},
+  {{.LevelIn = {ClassRow::Pirate, ClassRow::SwindlingPirate}}, {.Names = "Tightrope Walking | Weather Sense"}, 1, 1},
+  {{.LevelIn = {ClassRow::BountyHunter}}, {.Names = "Berate | Feign Toughness | Flex Muscle | Glean Information | "
                                                     "Intimidation | Poker Face | Resist Persuasion | Street Cred | "
                                                     "Taunting, Major | Taunting, Minor | "
                                                     "Threat Gesture (Nonverbal gestures - body and hand) | "
@@ -225,18 +225,16 @@ std::array<int, 5> SkillPrerequisites(int row, const SkillBuyer& buyer) {
 }
 
 std::string SkillRestriction(int row, const SkillBuyer& buyer) {
-  constexpr int kBarbarian = 4;
-  constexpr int kHypnotist = 46;
-  constexpr int kDroog = 77;
   const SkillRecord* skill = Skill(row);
   if (skill == nullptr) return {};
   if (buyer.ClassIsThief == 0 && (row == SkillRow::Pinch || row == SkillRow::TrapSweep)) {
     return Format("The Skill: %s is restricted to Thieves", TrimRight(skill->Name));
   }
-  if (ValueAt(buyer.ClassLevels, kBarbarian) == 0 && skill->Category == SkillCategory::Barbarian) {
+  if (ValueAt(buyer.ClassLevels, ClassRow::Barbarian) == 0 && skill->Category == SkillCategory::Barbarian) {
     return Format("The Skill: %s is restricted to Barbarians", TrimRight(skill->Name));
   }
-  const bool bornSpeaker = ValueAt(buyer.ClassLevels, kHypnotist) != 0 || ValueAt(buyer.ClassLevels, kDroog) != 0;
+  const bool bornSpeaker =
+      ValueAt(buyer.ClassLevels, ClassRow::Hypnotist) != 0 || ValueAt(buyer.ClassLevels, ClassRow::Droog) != 0;
   if (row == SkillRow::DragonSpeak && !bornSpeaker && (buyer.Intelligence < 19 || buyer.Charisma < 15)) {
     return "The Skill Dragon Speak requires a minimum of a 19 Intelligence and 15 Charisma";
   }

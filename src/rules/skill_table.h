@@ -3,6 +3,8 @@
 #include <array>
 #include <string_view>
 
+#include "rules/named_rows.h"
+
 namespace veld {
 
 inline constexpr int kSkillTableRows = 500;  ///< room of the table of plain skills
@@ -25,28 +27,6 @@ inline constexpr int Tool = 10;
 inline constexpr int Suite = 11;
 inline constexpr int Barbarian = 12;
 }  // namespace SkillCategory
-
-/// Rows that rules speak of by number.
-namespace SkillRow {
-inline constexpr int DragonSpeak = 39;
-inline constexpr int Hunting = 112;
-inline constexpr int IdentifyAnimalByTracks = 113;
-inline constexpr int Interrogation = 115;
-inline constexpr int MaplessTravel = 125;
-inline constexpr int Pinch = 132;
-inline constexpr int TrapSweep = 160;
-inline constexpr int FirstMartialStyle = 252;
-inline constexpr int LastMartialStyle = 258;
-inline constexpr int LastMartialTraining = 291;
-inline constexpr int AdvancedTraps = 314;
-}  // namespace SkillRow
-
-namespace SkillFamily {
-inline constexpr int LocalHistory = 4;
-inline constexpr int Language = 7;
-inline constexpr int ReadingWriting = 17;
-inline constexpr int LandRiding = 19;
-}  // namespace SkillFamily
 
 /// A skill, or a family of skills whose members the player names (a language, an instrument). Row numbers are stored in
 /// character files, so rows never move.

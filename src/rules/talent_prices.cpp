@@ -2,6 +2,7 @@
 
 #include <cstddef>
 
+#include "rules/rule_switches.h"
 #include "rules/talent_table.h"
 #include "text/numbers.h"
 
@@ -20,8 +21,6 @@ constexpr std::string_view kKeyholderTalents =
 constexpr std::string_view kKeyholderMagic =
     "Fast Cast | High Spell-Jacker | Spell Razor | Voiceless Casting | Still Casting | School Resistant";
 constexpr std::string_view kStoutRaces = "Dwarf | Half-ogre | Half-orc | Human";
-constexpr int kMageBook = 1;
-constexpr int kPriestBook = 4;
 
 // clang-format off
 
@@ -80,7 +79,7 @@ struct TalentOffer {
 constexpr TalentOffer kTalentOffers[] = {
   {{.BowDiscount = true},                                   "Bow Bonus", Offered::IfClosedToRace},
   {{.CrossbowDiscount = true},                              "Crossbow Bonus", Offered::IfClosedToRace},
-  {{.IsCleric = 1, .BookOn = kPriestBook},                  "Divine Smite"},
+  {{.IsCleric = 1, .BookOn = kDevoteesAlmanac},             "Divine Smite"},
   {{.Package = "Trailblazer"},                              "Acute Alertness & Keen Sight"},
   {{.ClassHolding = "Sniper"},                              "Precise Targeting"},
   {{.ClassHolding = "Zealot of Francor'Dieus (Earther)"},   "Defensive Bonus"},
@@ -121,7 +120,7 @@ bool IsOffered(Offered when, int flag, const SkillBuyer& buyer) {
     case Offered::IfClosedToRace:
       return flag == 0;
     case Offered::IfClosedToRaceOrNoMageBook:
-      return flag == 0 || ValueAt(buyer.RuleSwitches, kMageBook) != 1;
+      return flag == 0 || ValueAt(buyer.RuleSwitches, kHexwrightsAlmanac) != 1;
   }
   return false;
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <span>
 
+#include "platform/form.h"
 #include "sheets/sheet_content.h"
 #include "text/format.h"
 #include "text/search.h"

@@ -5,6 +5,7 @@
 #include <initializer_list>
 
 #include "rules/class_table.h"
+#include "rules/equipment_catalogue.h"
 #include "rules/proficiency_table.h"
 #include "rules/quirk_table.h"
 #include "rules/race_table.h"
@@ -15,6 +16,7 @@
 #include "steps/classes/class_recalculation.h"
 #include "steps/skills/proficiency_purchase.h"
 #include "steps/skills/tattoo.h"
+#include "store/sheet_accessors.h"
 #include "text/format.h"
 #include "text/numbers.h"
 #include "text/search.h"
@@ -27,10 +29,6 @@ namespace {
 using enum SheetForm;
 using Sheet = CharacterSheet;
 
-// Rows of the class table that own percentile abilities.
-constexpr std::size_t kThiefRow = 16;
-constexpr std::size_t kAssassinRow = 17;
-constexpr std::size_t kBountyHunterRow = 60;
 constexpr int kAssassinsFirstLevel = 3;  ///< an assassin has no thief's skills before
 constexpr std::size_t kSiblingsShown = 9;
 
@@ -201,7 +199,7 @@ void AddClasses(const Sheet& sheet, SheetContent& content) {
 
 void AddSaves(const Sheet& s, SheetContent& content) {
   constexpr SheetTab kTab{TabRow::Saves, " \t %s"};  // quelling has no column there
-  const auto best = [](const SaveNumbers& save) { return Number(save[kBestSave]); };
+  const auto best = [](const SaveNumbers& save) { return Number(BestSave(save)); };
   AddBlock(content, {"Saving Throws", SheetLevel::ShortSection, SheetShape::Facts, "\n" + Headed(41, "Saving Throws")})
       .Facts = {
       {"Paralyzation", best(s.SaveParalyzation), "Paralyzation: %-5s  ", kTab},
@@ -564,7 +562,7 @@ void AddThiefTable(const Sheet& sheet, SheetContent& content, std::string_view t
                    std::initializer_list<std::size_t> abilities) {
   AbilityTable table(content, title);
   for (const std::size_t ability : abilities) {
-    table.Add(kThiefRows[ability], ThiefAbilityAt(sheet, ability)[kLevelSum]);
+    table.Add(kThiefRows[ability], LevelSum(ThiefAbilityAt(sheet, ability)));
   }
 }
 
@@ -582,10 +580,10 @@ void AddClassAbilities(const Sheet& s, SheetContent& content) {
   if (Contains(s.ClassName, "Barbarian")) AddBarbarianTable(s, content);
   if (s.ClassName == "Monk") AddThiefTable(s, content, "Monk Abilities", {2, 4, 5, 6, 7});
   if (s.ClassName == "Bard") AddThiefTable(s, content, "Bard Abilities", {0, 6, 7, 8});
-  if (s.ClassLevels[kThiefRow] > 0 || s.ClassLevels[kBountyHunterRow] > 0) {
+  if (HasClass(s, ClassRow::Thief) || HasClass(s, ClassRow::BountyHunter)) {
     AddThiefTable(s, content, "Thief Abilities", allNine);
   }
-  if (s.ClassLevels[kAssassinRow] >= kAssassinsFirstLevel) {
+  if (s.ClassLevels[ClassRow::Assassin] >= kAssassinsFirstLevel) {
     AddThiefTable(s, content, "Assassin Abilities", allNine);
   }
 }

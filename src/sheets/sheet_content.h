@@ -8,6 +8,8 @@
 
 namespace veld {
 
+class Form;
+
 // What all printed sheets show, gathered once from the character and the catalogues as one ordered list of facts. A
 // fact says in its own line where and how each format prints it, and the writers only walk the list: a new fact is a
 // new line here and nothing elsewhere. The list has the order of the text and the HTML sheet; on the tab-separated

@@ -1,5 +1,6 @@
 #include "sheets/sheet_save.h"
 
+#include "platform/platform.h"
 #include "sheets/html_sheet.h"
 #include "sheets/sheet_content.h"
 #include "sheets/tab_sheet.h"

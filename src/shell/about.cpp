@@ -1,6 +1,9 @@
 #include "shell/about.h"
 
 #include "generation/main_title.h"
+#include "platform/form.h"
+#include "platform/platform.h"
+#include "text/format.h"
 
 namespace veld {
 

@@ -5,6 +5,7 @@
 #include "generation/main_title.h"
 #include "generation/save_by_extension.h"
 #include "generation/sequencer.h"
+#include "platform/platform.h"
 #include "shell/about.h"
 #include "shell/options_dialog.h"
 #include "shell/recover_dialog.h"

@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "platform/menu.h"
 #include "store/game.h"
 
 namespace veld {

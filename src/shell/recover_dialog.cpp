@@ -1,6 +1,9 @@
 #include "shell/recover_dialog.h"
 
+#include "platform/form.h"
+#include "platform/platform.h"
 #include "store/recovery.h"
+#include "text/format.h"
 
 namespace veld {
 

@@ -6,7 +6,7 @@
 namespace veld {
 
 void StartUp(Game& game) {
-  game.RuleSwitches.fill(1);
+  game.RuleSwitches = kDefaultRuleSwitches;
   game.sheet.PlayerName = DesktopUserName();
   ResetCharacter(game);
   LoadOptions(game);

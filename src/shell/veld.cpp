@@ -3,6 +3,7 @@
 #include <csignal>
 
 #include "generation/main_title.h"
+#include "platform/main_window.h"
 #include "shell/data_folder.h"
 #include "shell/main_menu.h"
 #include "shell/start_up.h"

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <memory>
 
+#include "platform/platform.h"
 #include "store/byte_reader.h"
 #include "store/byte_writer.h"
 #include "store/old_character_files.h"
@@ -70,8 +71,7 @@ void PassHead(File& file, Sheet& sheet, const CharacterFormat& format) {
   file.Pass(sheet.WeightAllowanceSevere, sheet.MaxPressExtra);
   PassQuirks(file, sheet, format, QuirkPlace::AfterBurden);
   file.Pass(sheet.MinorFlawPicksLeft, sheet.MajorFlawPicksLeft, sheet.ProficiencySlots, sheet.CarriedWeightLbs);
-  file.Pass(sheet.SilverPieces, sheet.CopperPieces, sheet.ElectrumPieces, sheet.HardSilverPieces,
-            sheet.PlatinumPieces);
+  file.Pass(sheet.SilverPieces, sheet.CopperPieces, sheet.ElectrumPieces, sheet.HardSilverPieces, sheet.PlatinumPieces);
   file.Pass(sheet.MovementLight, sheet.MovementModerate, sheet.MovementHeavy);
   PassTattoos(file, sheet);
   file.Pass(First(sheet.ClassProficiencySlots, format.Classes), sheet.ProficiencyLevels);
@@ -260,9 +260,12 @@ void AddCustomItem(Game& game, const EquipmentRecord& item) {
 bool KeepOlderVersion(const std::string& path, SaveWay way) {
   std::string old;
   switch (ReadWholeFile(path, old, kVersionBytes)) {
-    case FileRead::Missing: return true;
-    case FileRead::Unreadable: return false;
-    case FileRead::Done: break;
+    case FileRead::Missing:
+      return true;
+    case FileRead::Unreadable:
+      return false;
+    case FileRead::Done:
+      break;
   }
   const CharacterFormat* format = FormatOf(old);
   if (format == nullptr || format == &kCurrentFormat) return true;
@@ -299,7 +302,9 @@ std::string EncodeCharacter(const CharacterSheet& sheet, const CharacterGoods& g
   return PassCharacter(file, sheet, goods, kCurrentFormat) ? file.TakeBytes() : std::string();
 }
 
-std::string EncodeCharacter(const Game& game) { return EncodeCharacter(game.sheet, GoodsOf(game)); }
+std::string EncodeCharacter(const Game& game) {
+  return EncodeCharacter(game.sheet, GoodsOf(game));
+}
 
 void TakeCharacter(Game& game, const CharacterDraft& draft) {
   ResetCharacter(game);

@@ -5,7 +5,7 @@
 #include <type_traits>
 
 #include "rules/ability.h"
-#include "rules/class_table.h"
+#include "rules/class_row_count.h"
 #include "text/fixed_text.h"
 
 namespace veld {
@@ -13,13 +13,13 @@ namespace veld {
 // Rows of the arrays of a character. A row number is a catalogue row's identity: it goes to character files and is
 // compared literally by rules, so catalogues only ever grow at their end.
 inline constexpr std::size_t kLevels = 100;
-inline constexpr std::size_t kLevelSum = 99;   ///< element of a level table that holds the sum of the others
+inline constexpr std::size_t kLevelSum = 99;  ///< element of a level table that holds the sum of the others
 inline constexpr int kHighestLevel = 98;
 inline constexpr std::size_t kBestSave = 199;  ///< element of a saving throw that holds the best of all classes
 inline constexpr std::size_t kQuirkCountRows = 700;
 inline constexpr std::size_t kSkillRows = 500;
 inline constexpr std::size_t kTalentRows = 150;
-inline constexpr std::size_t kDetailRows = 50;   ///< rows of named skills and talents, and items in each
+inline constexpr std::size_t kDetailRows = 50;  ///< rows of named skills and talents, and items in each
 inline constexpr std::size_t kProficiencyRows = 200;
 inline constexpr std::size_t kSpellMarks = 2000;
 inline constexpr std::size_t kSpellBooks = 50;
@@ -123,10 +123,10 @@ struct CharacterSheet {
   int WeightLbs = 0;
   int SocialClassIndex = 0;  ///< below 7 is low class
   int IsOrphan = 0;
-  int MotherPresence = 1;    ///< -1 unknown, 0 dead, 1 alive, 2 step parent found
+  int MotherPresence = 1;  ///< -1 unknown, 0 dead, 1 alive, 2 step parent found
   int FatherPresence = 1;
-  int SiblingCount = 0;      ///< negative: that many illegitimate siblings
-  int WeaponSizeClass = 0;   ///< of the race: 0 tiny, 1 small, 2 medium, 3 large
+  int SiblingCount = 0;     ///< negative: that many illegitimate siblings
+  int WeaponSizeClass = 0;  ///< of the race: 0 tiny, 1 small, 2 medium, 3 large
   int LanguagesKnown = 0;
 
   // Money. Saved.
@@ -153,10 +153,10 @@ struct CharacterSheet {
   int MaxPressExtra = 0;
 
   // Standing and calling. Saved, but HitPoints.
-  int HitPoints = 0;     ///< rebuilt from the levels
+  int HitPoints = 0;  ///< rebuilt from the levels
   int HitDiceCount = 0;
   int Honor = 0;
-  int HonorDie = 0;      ///< sides; 1 means none
+  int HonorDie = 0;  ///< sides; 1 means none
   int IsFighterClass = 0;
   int IsMageClass = 0;
   int IsThiefClass = 0;

@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "rules/equipment_catalogue.h"
+#include "rules/rule_switches.h"
 #include "store/character_sheet.h"
 
 namespace veld {
@@ -78,8 +79,8 @@ inline constexpr std::size_t kLargestCharacterBytes =
     kBareCharacterBytes + kEquipmentRows * kCustomItemBytes + kClassRows * kLevels * kLevelBytes + 293 + 780 +
     kSpellBooks * kSpellBookBytes + 6800 + 2074 + 2 * kDetailRows * kDetailRows * 100;
 
-// options.vlb: the rule switches and a reserved number, 0.
-inline constexpr std::size_t kOptionsFileBytes = 84;
+// options.vlb: numbers, each at its place as rules/rule_switches.h tells; one is reserved.
+inline constexpr std::size_t kOptionsFileBytes = kOptionPlaces * sizeof(int);
 // equip.vlb and cequip.vlb: see EquipmentRecord; kEquipmentFileBytes.
 inline constexpr int kLastGoodsCategory = 21;
 /// A category of goods as a file tells it; one that there is not counts as none.

@@ -1,5 +1,6 @@
 #include "store/game.h"
 
+#include "platform/platform.h"
 #include "rules/quirk_table.h"
 
 namespace veld {
@@ -95,7 +96,6 @@ const SaveNumbers& SaveAt(const CharacterSheet& sheet, std::size_t save) { retur
 
 std::unique_ptr<Game> MakeGame(Platform& platform) {
   auto game = std::make_unique<Game>(platform);
-  game->RuleSwitches.fill(1);
   ResetCharacter(*game);
   return game;
 }

@@ -5,31 +5,16 @@
 #include <memory>
 #include <string>
 
-#include "platform/platform.h"
-#include "rules/equipment_catalogue.h"
-#include "rules/spell_catalogue.h"
+#include "rules/equipment_record.h"
+#include "rules/rule_switches.h"
+#include "rules/spell_record.h"
 #include "store/character_sheet.h"
 #include "store/generation_run.h"
 
 namespace veld {
 
-/// The books and optional rules a generation may use, 1 on and 0 off. The core rules are always on.
-enum RuleSwitch : std::size_t {
-  kCoreRules = 0,
-  kHexwrightsAlmanac = 1,
-  kWarmongersAlmanac = 2,
-  kSwindlersAlmanac = 3,
-  kDevoteesAlmanac = 4,
-  kBeastGrid = 5,
-  kRollYourOwnDice = 6,
-  kBronzeMetropolis = 7,
-  kSocialClassRestrictions = 8,
-  kPostedFixes = 9,
-  kTavernGazette12 = 10,
-  kSmallFortModule = 11,
-  kTitanTrilogyModule = 12,
-  kRuleSwitches = 20,
-};
+class Form;
+class Platform;
 
 /// Where dice.log lines go: each line opens, appends and closes the file; a long run of rolls may hold it open; rolls
 /// that are no player's (measurements) leave no line.
@@ -43,7 +28,7 @@ struct DiceState {
   std::string RollPurpose;      ///< what a player who types the dice is told they are for; may be empty
   std::int64_t DiceEntryValue = 0;
   DiceLogMode LogMode = DiceLogMode::EachLine;
-  int LogFile = -1;             ///< while held open
+  int LogFile = -1;  ///< while held open
 };
 
 /// All that the program remembers. Big: made once on the heap by MakeGame and only ever passed by reference.
@@ -54,19 +39,19 @@ struct Game {
   CharacterSheet sheet;
   GenerationRun run;
   DiceState dice;
-  std::array<int, kRuleSwitches> RuleSwitches{};
+  RuleSwitchArray RuleSwitches = kDefaultRuleSwitches;
   std::array<EquipmentRecord, kEquipmentRows> EquipmentTable{};
   std::array<EquipmentRecord, kEquipmentRows> CustomEquipmentTable{};
   std::array<SpellRecord, kSpellRows> SpellTable{};
-  std::string TextScratch;            ///< the name that a purchase or grant is for
-  std::shared_ptr<Form> stepThree;    ///< the open StepThree window
-  bool isFinished = false;            ///< the character has come to the end of its generation, from a file or into one
-  std::string recoveryCopy;           ///< which recovery copy is that of the character; empty: none yet
+  std::string TextScratch;          ///< the name that a purchase or grant is for
+  std::shared_ptr<Form> stepThree;  ///< the open StepThree window
+  bool isFinished = false;          ///< the character has come to the end of its generation, from a file or into one
+  std::string recoveryCopy;         ///< which recovery copy is that of the character; empty: none yet
 
   bool IsOn(std::size_t ruleSwitch) const { return ruleSwitch < kRuleSwitches && RuleSwitches[ruleSwitch] == 1; }
 };
 
-/// A game with an empty character, all rule switches on and empty catalogues of goods and spells.
+/// A game with an empty character, the rule switches at their defaults and empty catalogues of goods and spells.
 std::unique_ptr<Game> MakeGame(Platform& platform);
 
 /// Puts the character, the run and all quantities owned to their defaults, the core rules on, and seeds the dice with

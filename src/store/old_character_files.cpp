@@ -2,6 +2,8 @@
 
 #include <span>
 
+#include "rules/named_rows.h"
+
 namespace veld {
 
 namespace {
@@ -80,14 +82,17 @@ void ReadScatteredQuirks(ByteReader& file, CharacterSheet& sheet, QuirkPlace pla
 void UpdateTalents(CharacterSheet& sheet, std::string_view version) {
   auto& talents = sheet.TalentCounts;
   // "Acute Alertness & Keen Sight" was divided in two.
-  if (talents[114] >= 1) {
-    talents[114] = 0;
-    talents[2] = 1;
-    talents[43] = 1;
+  if (talents[TalentRow::AcuteAlertnessAndKeenSight] >= 1) {
+    talents[TalentRow::AcuteAlertnessAndKeenSight] = 0;
+    talents[TalentRow::AcuteAlertness] = 1;
+    talents[TalentRow::KeenSight] = 1;
   }
   // Perfect Grooming, Quick Movement, Simultaneous Backstab Attacks and the row after it meant something else once.
   if (version == "3.8.1") {
-    for (const std::size_t row : {21u, 111u, 112u, 113u}) talents[row] = 0;
+    for (const int row : {TalentRow::PerfectGrooming, TalentRow::QuickMovement, TalentRow::SimultaneousBackstab,
+                          TalentRow::AfterSimultaneousBackstab}) {
+      talents[static_cast<std::size_t>(row)] = 0;
+    }
   }
 }
 

@@ -10,6 +10,8 @@
 #include <functional>
 #include <tuple>
 
+#include "platform/platform.h"
+#include "text/format.h"
 #include "text/numbers.h"
 
 namespace veld {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <span>
 
+#include "platform/platform.h"
 #include "rules/skills_tsv.h"
 #include "store/byte_reader.h"
 #include "store/byte_writer.h"
@@ -28,14 +29,19 @@ bool Tell(Game& game, std::string_view problem) {
 bool KeepShortCustomEquipment(SaveWay way) {
   std::string old;
   switch (ReadWholeFile(kCustomEquipmentPath, old, kEquipmentFileBytes)) {
-    case FileRead::Missing: return true;
-    case FileRead::Unreadable: return false;
-    case FileRead::Done: break;
+    case FileRead::Missing:
+      return true;
+    case FileRead::Unreadable:
+      return false;
+    case FileRead::Done:
+      break;
   }
   return old.size() == kEquipmentFileBytes || KeepBackup(kCustomEquipmentPath, old, way);
 }
 
-bool IsBlank(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
+bool IsBlank(char c) {
+  return c == ' ' || (c >= '\t' && c <= '\r');
+}
 
 /// Takes the next text between blanks off the front of `rest`; empty at the end.
 std::string_view TakeToken(std::string_view& rest) {
@@ -92,17 +98,20 @@ void TakeSpell(std::string_view& rest, SpellRecord& spell) {
 }  // namespace
 
 void DecodeOptions(std::string_view bytes, RuleSwitchArray& switches) {
-  // A file that is too short tells nothing of the other switches; they are on, as on a first run.
-  switches.fill(1);
-  ByteReader(bytes).Pass(std::span(switches).first(std::min(bytes.size() / sizeof(int), switches.size())));
-  for (int& value : switches) value = value > 0 ? 1 : 0;
+  std::array<int, kOptionPlaces> numbers{};
+  ByteReader(bytes).Pass(numbers);
+  const std::size_t told = bytes.size() / sizeof(int);
+  for (const RuleSwitchRow& row : kRuleSwitchRows) {
+    switches[row.Switch] = row.FilePlace < told ? (numbers[row.FilePlace] > 0 ? 1 : 0) : row.Default;
+  }
   switches[kCoreRules] = 1;
 }
 
 std::string EncodeOptions(const RuleSwitchArray& switches) {
+  std::array<int, kOptionPlaces> numbers{};
+  for (const RuleSwitchRow& row : kRuleSwitchRows) numbers[row.FilePlace] = switches[row.Switch];
   ByteWriter file(kOptionsFileBytes);
-  const int reserved = 0;
-  file.Pass(switches, reserved);
+  file.Pass(numbers);
   return file.TakeBytes();
 }
 
@@ -158,9 +167,13 @@ bool LoadEquipment(Game& game) {
 bool LoadCustomEquipment(Game& game) {
   std::string bytes;
   switch (ReadWholeFile(kCustomEquipmentPath, bytes, kEquipmentFileBytes)) {
-    case FileRead::Done: DecodeEquipment(bytes, game.CustomEquipmentTable); return true;
-    case FileRead::Unreadable: return Tell(game, "Problem Loading cequip.vlb file");
-    case FileRead::Missing: break;
+    case FileRead::Done:
+      DecodeEquipment(bytes, game.CustomEquipmentTable);
+      return true;
+    case FileRead::Unreadable:
+      return Tell(game, "Problem Loading cequip.vlb file");
+    case FileRead::Missing:
+      break;
   }
   Tell(game,
        "Problem Loading cequip.vlb file. Will create new one now. If this is your first time running VELD this is "

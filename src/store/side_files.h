@@ -29,11 +29,11 @@ bool LoadSpells(Game& game);
 /// Writes skills.tsv, the skill tables as a sheet. A failure is told to nobody.
 bool ExportSkills(SaveWay way = {});
 
-using RuleSwitchArray = std::array<int, kRuleSwitches>;
 using EquipmentArray = std::array<EquipmentRecord, kEquipmentRows>;
 using SpellArray = std::array<SpellRecord, kSpellRows>;
 
-/// The switches of options.vlb, each 0 or 1; what is on there, is above 0. Those that the file is too short for are on.
+/// The switches of options.vlb, each 0 or 1; what is on there, is above 0. Those that the file is too short for
+/// have their defaults.
 void DecodeOptions(std::string_view bytes, RuleSwitchArray& switches);
 std::string EncodeOptions(const RuleSwitchArray& switches);
 

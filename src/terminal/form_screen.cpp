@@ -4,10 +4,12 @@
 #include <chrono>
 #include <utility>
 
+#include "platform/control_kinds.h"
 #include "platform/control_names.h"
 #include "platform/mnemonics.h"
 #include "terminal/cells.h"
 #include "terminal/menu_popup.h"
+#include "text/format.h"
 #include "text/search.h"
 
 namespace veld {
@@ -19,22 +21,6 @@ constexpr int kCornerWidth = 8;     // "< Menu >"
 constexpr int kSearchPause = 1000;  // milliseconds after which the letters typed in a list begin anew
 constexpr int kSidewaysStep = 8;    // cells that an arrow moves a list's rows
 constexpr std::string_view kCornerText = "< &Menu >";
-
-bool IsLine(ControlKind kind) {
-  return kind == ControlKind::Edit || kind == ControlKind::Number;
-}
-
-bool IsTyped(ControlKind kind) {
-  return IsLine(kind) || kind == ControlKind::MultiLine;
-}
-
-bool IsMark(ControlKind kind) {
-  return kind == ControlKind::Check || kind == ControlKind::Radio;
-}
-
-bool IsDefault(const ControlTemplate& control) {
-  return control.Role == ButtonRole::Default || control.Role == ButtonRole::Both;
-}
 
 PageMetrics TerminalMetrics(bool hasMenu) {
   PageMetrics m;
@@ -302,10 +288,10 @@ void FormScreen::DrawButton(const PlacedControl& placed, bool isFocus) {
   const int x = ScreenX(placed.Area.X);
   const int y = ScreenY(placed.Area.Y);
   const int width = placed.Area.Width;
-  const Ink ink = isFocus                       ? Ink::Focus
-                  : !control.Enabled            ? Ink::Faint
-                  : IsDefault(control.Template) ? Ink::Bold
-                                                : Ink::Paper;
+  const Ink ink = isFocus                            ? Ink::Focus
+                  : !control.Enabled                 ? Ink::Faint
+                  : IsDefault(control.Template.Role) ? Ink::Bold
+                                                     : Ink::Paper;
   const int textWidth = std::min(CellsOf(WithoutMnemonic(control.Text)), std::max(width - 4, 0));
   screen_.Put(y, x, "<", width, ink);
   screen_.Put(y, x + width - 1, ">", 1, ink);
@@ -367,9 +353,9 @@ std::string FormScreen::KeysLine() const {
   std::string escape = "close";
   for (const Control& control : form_.Controls()) {
     if (!control.Enabled || !control.Visible || control.Template.Kind != ControlKind::Button) continue;
-    if (enter.empty() && IsDefault(control.Template)) enter = WithoutMnemonic(control.Text);
+    if (enter.empty() && IsDefault(control.Template.Role)) enter = WithoutMnemonic(control.Text);
     const ButtonRole role = control.Template.Role;
-    if (role == ButtonRole::Cancel || role == ButtonRole::Both) escape = WithoutMnemonic(control.Text);
+    if (IsCancel(role)) escape = WithoutMnemonic(control.Text);
   }
   if (kind == ControlKind::MultiLine) enter = "new line";
   if (kind == ControlKind::Button) enter = isControl ? WithoutMnemonic(At(focus_).Text) : "Menu";
@@ -391,8 +377,7 @@ bool FormScreen::CanFocus(std::size_t control) const {
     const PlacedControl* placed = PlacedAt(control);
     return placed && placed->Scrolls;
   }
-  return state.Enabled && (IsTyped(kind) || IsMark(kind) || kind == ControlKind::Button || kind == ControlKind::List ||
-                           kind == ControlKind::Combo);
+  return state.Enabled && CanBeUsed(kind);
 }
 
 /// What can not be used any more loses the focus to the next that can.
@@ -423,23 +408,10 @@ void FormScreen::OnFocusWanted(std::size_t control) {
   wantedFocus_ = control;
 }
 
-/// The first field to type in has the focus, else a list, else the default button.
 void FormScreen::FocusFirst() {
   LayOut();
   if (wantedFocus_) return KeepFocus();
-  const auto take = [&](auto fits) {
-    for (std::size_t i = 0; i < Corner(); ++i) {
-      if (!CanFocus(i) || !fits(At(i).Template)) continue;
-      TakeFocus(i);
-      return true;
-    }
-    return false;
-  };
-  if (take([](const ControlTemplate& c) { return IsTyped(c.Kind); })) return;
-  if (take([](const ControlTemplate& c) { return c.Kind == ControlKind::List || c.Kind == ControlKind::Combo; }))
-    return;
-  if (take(IsDefault)) return;
-  take([](const ControlTemplate& c) { return c.Kind == ControlKind::Button || IsMark(c.Kind); });
+  if (const std::size_t first = form_.FirstFocus(); first < Corner()) TakeFocus(first);
 }
 
 // --- Keys ----------------------------------------------------------------------------------------------------------

@@ -5,6 +5,8 @@
 #include <filesystem>
 #include <system_error>
 
+#include "platform/form.h"
+#include "text/format.h"
 #include "text/search.h"
 #include "text/utf8.h"
 

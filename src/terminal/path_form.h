@@ -9,6 +9,8 @@
 
 namespace veld {
 
+class Form;
+
 /// Runs a form and tells it of Tab, which completes what is typed. `form` is opened by it.
 using RunWithTab = std::function<void(Form& form, const std::function<bool()>& onTab)>;
 

@@ -1,10 +1,11 @@
 #include "terminal/terminal_platform.h"
 
 #include <algorithm>
-#include <chrono>
 #include <utility>
 
 #include "platform/control_names.h"
+#include "platform/main_window.h"
+#include "platform/progress_form.h"
 #include "terminal/cells.h"
 #include "terminal/menu_popup.h"
 #include "terminal/path_form.h"
@@ -13,17 +14,6 @@
 namespace veld {
 
 namespace {
-
-enum : int { kProgressText = 10, kProgressBar = 11, kProgressCancel = 2 };
-constexpr int kProgressWidth = 48;
-
-constexpr ControlTemplate kProgressControls[] = {
-    TextAt(0, 0, kProgressText, "", kProgressWidth, 0),
-    {.Kind = ControlKind::Progress, .Id = kProgressBar, .Row = 1, .Column = 0, .Width = kProgressWidth},
-    ButtonAt(2, 0, kProgressCancel, "&Cancel", ButtonRole::Cancel),
-};
-constexpr FormTemplate kProgressTemplate{"Progress", "VELD", kProgressControls};
-constexpr auto kProgressEvery = std::chrono::milliseconds(25);  // from one look at the keys to the next
 
 constexpr int kMostCloseBoxes = 3;     // presses after which a form that stays open is closed
 constexpr int kMostLeftForms = 10000;  // forms left after the end before their run is broken off
@@ -49,14 +39,12 @@ class TerminalPlatform::Desk : public Layer {
   Screen& screen_;
 };
 
-struct TerminalPlatform::Progress {
-  explicit Progress(Screen& screen) : page(form, screen, FormScreen::Place::Dialog), onTop(screen, page) {}
+struct TerminalPlatform::Progress : ProgressForm {
+  Progress(Screen& screen, std::string_view caption, std::string_view text)
+      : ProgressForm(caption, text), page(form, screen, FormScreen::Place::Dialog), onTop(screen, page) {}
 
-  Form form{kProgressTemplate};
   FormScreen page;
   OnTop onTop;
-  std::chrono::steady_clock::time_point lookedAt = std::chrono::steady_clock::now();
-  bool isCancelled = false;
 };
 
 int TerminalPlatform::Desk::MenuX(std::size_t menu) const {
@@ -91,11 +79,6 @@ TerminalPlatform::TerminalPlatform(Screen& screen) : screen_(screen), desk_(std:
 
 TerminalPlatform::~TerminalPlatform() {
   screen_.Remove(*desk_);
-}
-
-std::int64_t TerminalPlatform::Now() const {
-  const auto now = std::chrono::system_clock::now().time_since_epoch();
-  return std::chrono::duration_cast<std::chrono::seconds>(now).count();
 }
 
 // --- Forms ---------------------------------------------------------------------------------------------------------
@@ -188,13 +171,9 @@ void TerminalPlatform::RunMenuBar(const MainWindow& window, std::size_t menu) {
 
 // --- Messages, files, progress -------------------------------------------------------------------------------------
 
-void TerminalPlatform::DoShowMessage(const std::string& caption, const std::string& text) {
-  RunMessageForm(*this, caption, text);
-}
-
 Answer TerminalPlatform::DoAskYesNo(const std::string& caption, const std::string& text) {
   if (screen_.IsLost()) return Answer::Closed;
-  return RunQuestionForm(*this, caption, text);
+  return Platform::DoAskYesNo(caption, text);
 }
 
 std::optional<std::string> TerminalPlatform::DoAskOpenPath(const std::string& caption,
@@ -216,14 +195,8 @@ std::optional<ChosenPath> TerminalPlatform::DoAskSavePath(const std::string& cap
 
 void TerminalPlatform::BeginProgress(std::string_view caption, std::string_view text) {
   EndProgress();
-  progress_ = std::make_unique<Progress>(screen_);
+  progress_ = std::make_unique<Progress>(screen_, caption, text);
   Progress& progress = *progress_;
-  progress.form.SetTitle(caption);
-  progress.form.SetText(kProgressText, text);
-  progress.form.onCommand = [&progress](int) {
-    progress.isCancelled = true;
-    progress.form.SetEnabled(kProgressCancel, false);
-  };
   progress.form.Open();
   progress.page.FocusFirst();
   screen_.Paint();
@@ -233,16 +206,15 @@ bool TerminalPlatform::ShowProgress(int percent) {
   if (screen_.IsLost()) return false;
   if (!progress_) return true;
   Progress& progress = *progress_;
-  const auto now = std::chrono::steady_clock::now();
-  if (now - progress.lookedAt >= kProgressEvery) {
-    progress.form.SetNumber(kProgressBar, percent);
-    if (!progress.isCancelled)
+  if (progress.IsLookDue()) {
+    progress.ShowPercent(percent);
+    if (!progress.IsCancelled())
       progress.page.HandleKey(screen_.ReadKey(0));
     else
       screen_.Paint();
-    progress.lookedAt = std::chrono::steady_clock::now();
+    progress.Looked();
   }
-  return !progress.isCancelled;
+  return !progress.IsCancelled();
 }
 
 void TerminalPlatform::EndProgress() {

@@ -11,6 +11,7 @@
 #include "rules/quirk_table.h"
 #include "rules/school_tables.h"
 #include "rules/skill_table.h"
+#include "rules/spell_catalogue.h"
 #include "rules/youth_modifier_tables.h"
 #include "store/side_files.h"
 #include "support/dice_player.h"

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "rules/class_table.h"
 #include "rules/seminary_tables.h"
 #include "rules/skill_table.h"
 #include "rules/talent_table.h"

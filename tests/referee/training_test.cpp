@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "support/scripted_platform.h"
+#include "text/format.h"
 #include "text/search.h"
 
 namespace veld {
@@ -75,18 +76,6 @@ TEST_F(TrainingTest, GivesWhatItsLinesSay) {
     hasEarned = hasEarned || told(4, "experience points. ");
   }
   EXPECT_TRUE(hasWonDuel && hasReplacedSkills && hasEarned);
-}
-
-TEST_F(TrainingTest, ABardsTeacherAndClassAreBetter) {
-  const auto number = [](const std::string& line) {
-    return ReadNumberPrefix(std::string_view(line).substr(line.find('(') + 1));
-  };
-  const auto other = Train(5);
-  game->sheet.ClassName = "Bard";
-  const auto bard = Train(5);
-  EXPECT_EQ(number(bard[0]), number(other[0]));
-  EXPECT_EQ(number(bard[1]), number(other[1]) + 3);
-  EXPECT_EQ(number(bard[2]), number(other[2]) - 3);
 }
 
 }  // namespace

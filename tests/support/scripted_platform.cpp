@@ -12,6 +12,13 @@
 
 namespace veld::testing {
 
+void ChooseText(Form& form, int id, std::string_view text) {
+  const auto& items = form.Items(id);
+  const auto found = std::ranges::find(items, text);
+  ASSERT_NE(found, items.end()) << text;
+  form.Choose(id, static_cast<int>(found - items.begin()));
+}
+
 ScriptedPlatform::~ScriptedPlatform() {
   if (!script_.empty() && !::testing::Test::HasFailure()) {
     ADD_FAILURE() << script_.size() << " steps of the script were never asked for; the next is '" << script_.front().text

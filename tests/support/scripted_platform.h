@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/form.h"
+#include "platform/main_window.h"
 #include "platform/platform.h"
 
 namespace veld::testing {
@@ -31,8 +33,8 @@ class ScriptedPlatform : public Platform {
   std::vector<std::string> questions;  ///< "caption: text"
   std::vector<std::string> forms;      ///< names
   std::string mainTitle;
-  std::int64_t now = 1;                ///< the clock; ResetCharacter seeds the dice with it
-  std::shared_ptr<Form> window;        ///< the window shown last by ShowWindow
+  std::int64_t now = 1;          ///< the clock; ResetCharacter seeds the dice with it
+  std::shared_ptr<Form> window;  ///< the window shown last by ShowWindow
   bool mainWindowClosed = false;
   std::vector<int> progress;
   bool Showed(std::string_view part) const;  ///< a message held this text
@@ -69,6 +71,9 @@ class ScriptedPlatform : public Platform {
   std::optional<Answer> others_;
   int cancelAt_ = 101;
 };
+
+/// Chooses the line of a list or drop-down list that reads so; fails the test if there is none.
+void ChooseText(Form& form, int id, std::string_view text);
 
 /// A folder of its own for a test, made the working directory until the test ends and removed with all that is in it.
 class TestFolder {

@@ -55,6 +55,12 @@ struct Dialog {
   bool HasOneButton = false;  ///< and nothing else that the keys go to
 };
 
+template <int kClassRow>
+void RunAllotmentOf(Game& game) {
+  game.sheet.ClassLevels[kClassRow] = 1;
+  RunAllotment(game, kClassRow);
+}
+
 const Dialog kDialogs[] = {
     {"Step 6", RunStepSix},
     {"Siblings",
@@ -68,21 +74,9 @@ const Dialog kDialogs[] = {
     {"Major Quirk", RunMajorQuirk},
     {"Step 8", RunStepEight},
     {"Step 9", RunStepNine},
-    {"Thief Abilities",
-     [](Game& game) {
-       game.sheet.ClassLevels[16] = 1;
-       RunAllotment(game, 16);
-     }},
-    {"Bard Abilities",
-     [](Game& game) {
-       game.sheet.ClassLevels[18] = 1;
-       RunAllotment(game, 18);
-     }},
-    {"Bounty Hunter Abilities",
-     [](Game& game) {
-       game.sheet.ClassLevels[60] = 1;
-       RunAllotment(game, 60);
-     }},
+    {"Thief Abilities", RunAllotmentOf<16>},
+    {"Bard Abilities", RunAllotmentOf<18>},
+    {"Bounty Hunter Abilities", RunAllotmentOf<60>},
     {"Step 10", RunStepTen},
     {"Money",
      [](Game& game) {
@@ -199,7 +193,7 @@ TEST(TerminalDialogsTest, EveryDialogIsOpenedWalkedThroughAndLeftByKeyboardAlone
     EXPECT_GE(places.size(), dialog.HasOneButton ? 1U : 2U) << program.Shows();
     for (const auto& [row, column] : places) EXPECT_LT(row, program.screen.Rows() - 1) << column;
     Leave(program);
-    EXPECT_EQ(program.WaitForEnd(5), 0) << program.Shows();
+    EXPECT_EQ(program.WaitForEnd(), 0) << program.Shows();
   }
 }
 
@@ -209,13 +203,14 @@ TEST(TerminalDialogsTest, EveryDialogIsLeftWhenTheTerminalIsLost) {
     SCOPED_TRACE(dialog.Title);
     PtyProgram program([&] { return RunAtTerminal(dialog); });
     program.HangUp();
-    EXPECT_EQ(program.WaitForEnd(10), 0);
+    EXPECT_EQ(program.WaitForEnd(), 0);
   }
 }
 
 TEST(TerminalDialogsTest, LongWorkShowsHowFarItIsAndIsCancelled) {
   TestFolder folder;
   const Dialog work{"Work", [](Game& game) {
+                      game.platform.ShowMessage("Begin?");
                       game.platform.BeginProgress("Work", "It goes on and on.");
                       int percent = 0;
                       while (game.platform.ShowProgress(percent)) {
@@ -226,10 +221,10 @@ TEST(TerminalDialogsTest, LongWorkShowsHowFarItIsAndIsCancelled) {
                       game.platform.ShowMessage("Cancelled.");
                     }};
   PtyProgram program([&] { return RunAtTerminal(work); });
-  for (int i = 0; i < 50 && !program.Shows("50%"); ++i) program.Press("");
-  EXPECT_TRUE(program.Shows("It goes on") && program.Shows("50%")) << program.Shows();
-  program.Press(kEscapeKey);
-  EXPECT_TRUE(program.Shows("Cancelled.")) << program.Shows();
+  program.Type(kEnterKey);
+  EXPECT_TRUE(program.WaitUntilShown("50%") && program.Shows("It goes on")) << program.Shows();
+  program.Type(kEscapeKey);
+  EXPECT_TRUE(program.WaitUntilShown("Cancelled.")) << program.Shows();
   program.Press(kEnterKey);
   EXPECT_EQ(program.WaitForEnd(), 0);
 }

@@ -5,6 +5,7 @@
 #include <pty.h>
 #include <signal.h>
 #include <sys/ioctl.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -18,14 +19,13 @@ namespace veld::testing {
 namespace {
 
 using Clock = std::chrono::steady_clock;
-constexpr auto kFirstAnswer = std::chrono::milliseconds(150);  // some keys change nothing that can be seen
-constexpr auto kMostWait = std::chrono::seconds(20);
-constexpr int kEscapeWait = 60;  // milliseconds; the program waits 25 for the rest of a sequence
+constexpr auto kMostWait = std::chrono::seconds(60);
 
 }  // namespace
 
 PtyProgram::PtyProgram(const std::function<int()>& program, int rows, int columns) : screen(rows, columns) {
   const winsize size{static_cast<unsigned short>(rows), static_cast<unsigned short>(columns), 0, 0};
+  const auto start = Clock::now();
   std::array<char, 256> name{};
   child_ = forkpty(&master_, name.data(), nullptr, &size);
   if (child_ == 0) {
@@ -36,7 +36,10 @@ PtyProgram::PtyProgram(const std::function<int()>& program, int rows, int column
   fcntl(master_, F_SETFL, O_NONBLOCK);
   fcntl(master_, F_SETFD, FD_CLOEXEC);
   slave_ = open(name.data(), O_RDWR | O_NOCTTY | O_CLOEXEC);
-  WaitUntilIdle();
+  while (screen.Text().find_first_not_of(" \n") == std::string::npos && Clock::now() < start + kMostWait) {
+    if (!Read(5) && !IsRunning()) break;
+  }
+  WaitUntilIdle(0);
 }
 
 PtyProgram::~PtyProgram() {
@@ -55,8 +58,8 @@ bool PtyProgram::IsRunning() {
   return false;
 }
 
-std::optional<int> PtyProgram::WaitForEnd(int seconds) {
-  const auto end = Clock::now() + std::chrono::seconds(seconds);
+std::optional<int> PtyProgram::WaitForEnd() {
+  const auto end = Clock::now() + kMostWait;
   while (IsRunning() && Clock::now() < end) {
     if (!Read(5)) usleep(2000);
   }
@@ -76,37 +79,63 @@ bool PtyProgram::Read(int milliseconds) {
   return true;
 }
 
-/// True if the program has taken all that was typed and sleeps.
+/// True if the program has taken all that was typed and waits for a key without an end. While it waits for the rest of
+/// a key's bytes, works or sleeps for another reason, it does not: so no machine is too busy for it.
 bool PtyProgram::IsWaiting() const {
   int unread = 0;
   if (ioctl(slave_, FIONREAD, &unread) == 0 && unread > 0) return false;
-  std::ifstream stat("/proc/" + std::to_string(child_) + "/stat");
-  std::string text;
-  std::getline(stat, text);
-  const std::size_t state = text.rfind(") ");
-  return state == std::string::npos || text[state + 2] == 'S' || text[state + 2] == 'Z';
+  std::ifstream call("/proc/" + std::to_string(child_) + "/syscall");
+  long number = -1;
+  unsigned long ends = 0;
+  unsigned long count = 0;
+  unsigned long timeout = 0;
+  call >> number >> std::hex >> ends >> count >> timeout;
+#ifdef SYS_poll
+  if (number == SYS_poll) return static_cast<int>(timeout) < 0;
+#endif
+  return number == SYS_ppoll && timeout == 0;
 }
 
-void PtyProgram::WaitUntilIdle() {
-  const auto start = Clock::now();
-  bool hasAnswered = false;
-  for (int quiet = 0; quiet < 3 && Clock::now() - start < kMostWait && IsRunning();) {
-    if (Read(1)) {
-      hasAnswered = true;
-      quiet = 0;
-    } else if (IsWaiting() && (hasAnswered || Clock::now() - start > kFirstAnswer)) {
-      ++quiet;
-    } else {
-      quiet = 0;
-    }
+/// How often the program has gone to sleep of its own will.
+long PtyProgram::Sleeps() const {
+  std::ifstream status("/proc/" + std::to_string(child_) + "/status");
+  const std::string word = "voluntary_ctxt_switches:";
+  for (std::string line; std::getline(status, line);) {
+    if (line.starts_with(word)) return std::atol(line.c_str() + word.size());
+  }
+  return 0;
+}
+
+/// Waits until the program has gone to sleep more than `sleeps` times since it was started and waits for a key: what
+/// was typed has been answered by then, if only by nothing that shows.
+void PtyProgram::WaitUntilIdle(long sleeps) {
+  const auto end = Clock::now() + kMostWait;
+  while (Clock::now() < end && IsRunning()) {
+    if (IsWaiting() && Sleeps() > sleeps && !Read(0)) return;
+    Read(1);
   }
 }
 
-void PtyProgram::Press(std::string_view keys) {
+void PtyProgram::Type(std::string_view keys) {
   if (!IsRunning() || master_ < 0) return;
   [[maybe_unused]] const ssize_t written = write(master_, keys.data(), keys.size());
-  if (keys == kEscapeKey) usleep(kEscapeWait * 1000);
-  WaitUntilIdle();
+}
+
+bool PtyProgram::WaitUntilShown(std::string_view text) {
+  const auto end = Clock::now() + kMostWait;
+  while (!Shows(text) && Clock::now() < end && IsRunning()) Read(5);
+  return Shows(text);
+}
+
+void PtyProgram::Press(std::string_view keys) {
+  const long sleeps = Sleeps();  // what is typed comes to the program a little later
+  Type(keys);
+  WaitUntilIdle(sleeps);
+}
+
+void PtyProgram::Command(std::string_view letters) {
+  Press("\x1B" + std::string(letters.substr(0, 1)));
+  for (const char letter : letters.substr(1)) Press({&letter, 1});
 }
 
 void PtyProgram::Press(std::string_view keys, int times) {
@@ -125,9 +154,10 @@ void PtyProgram::Signal(int number) {
 
 void PtyProgram::Resize(int rows, int columns) {
   const winsize size{static_cast<unsigned short>(rows), static_cast<unsigned short>(columns), 0, 0};
+  const long sleeps = Sleeps();
   screen = VtScreen(rows, columns);
   ioctl(master_, TIOCSWINSZ, &size);
-  WaitUntilIdle();
+  WaitUntilIdle(sleeps);
 }
 
 std::string PtyProgram::Title() const {

@@ -35,9 +35,12 @@ class PtyProgram {
 
   void Press(std::string_view keys);  ///< types, and waits until the program has answered and waits again
   void Press(std::string_view keys, int times);
+  void Type(std::string_view keys);             ///< and goes on at once: for a program that is at work
+  bool WaitUntilShown(std::string_view text);  ///< false if it does not come in good time
+  void Command(std::string_view letters);  ///< of a menu, with Alt, and of the item in it
   bool IsRunning();
-  std::optional<int> WaitForEnd(int seconds = 20);  ///< the exit status; nothing if it goes on or was killed
-  void HangUp();                                    ///< the terminal goes away
+  std::optional<int> WaitForEnd();  ///< the exit status; nothing if it goes on or was killed
+  void HangUp();                    ///< the terminal goes away
   void Signal(int number);
   void Resize(int rows, int columns);
 
@@ -50,8 +53,9 @@ class PtyProgram {
 
  private:
   bool Read(int milliseconds);
-  void WaitUntilIdle();
+  void WaitUntilIdle(long sleeps);
   bool IsWaiting() const;
+  long Sleeps() const;
 
   pid_t child_ = -1;
   int master_ = -1;

@@ -27,22 +27,9 @@ std::size_t UnitLength(std::string_view bytes) {
 }
 
 char32_t LineLetter(char32_t letter) {
-  switch (letter) {
-    case U'q':
-      return U'─';
-    case U'x':
-      return U'│';
-    case U'l':
-      return U'┌';
-    case U'k':
-      return U'┐';
-    case U'm':
-      return U'└';
-    case U'j':
-      return U'┘';
-    default:
-      return letter;
-  }
+  constexpr std::u32string_view kSent = U"qxlkmj";
+  const std::size_t place = kSent.find(letter);
+  return place == kSent.npos ? letter : U"─│┌┐└┘"[place];
 }
 
 }  // namespace
@@ -105,28 +92,11 @@ void VtScreen::Put(char32_t character) {
 
 void VtScreen::Control(char byte) {
   isWrapPending_ = false;
-  switch (byte) {
-    case '\r':
-      column_ = 0;
-      break;
-    case '\n':
-      LineFeed();
-      break;
-    case '\b':
-      column_ = std::max(column_ - 1, 0);
-      break;
-    case '\t':
-      column_ = std::min((column_ / 8 + 1) * 8, columns_ - 1);
-      break;
-    case 0x0E:
-      drawsLines_ = true;
-      break;
-    case 0x0F:
-      drawsLines_ = false;
-      break;
-    default:
-      break;
-  }
+  if (byte == '\r') column_ = 0;
+  if (byte == '\n') LineFeed();
+  if (byte == '\b') column_ = std::max(column_ - 1, 0);
+  if (byte == '\t') column_ = std::min((column_ / 8 + 1) * 8, columns_ - 1);
+  if (byte == 0x0E || byte == 0x0F) drawsLines_ = byte == 0x0E;
 }
 
 void VtScreen::LineFeed() {
@@ -179,76 +149,31 @@ void VtScreen::Sequence(char final, const std::string& parameters) {
   const int count = std::max(first, 1);
   std::u32string& line = cells_[static_cast<std::size_t>(row_)];
   const auto cell = static_cast<std::size_t>(column_);
-  const auto columns = static_cast<std::size_t>(columns_);
   if (final != 'b' && final != 'm') isWrapPending_ = false;
-  switch (final) {
-    case 'H':
-    case 'f':
-      row_ = std::min(count, rows_) - 1;
-      column_ = std::clamp(second, 1, columns_) - 1;
-      break;
-    case 'A':
-      row_ = std::max(row_ - count, 0);
-      break;
-    case 'B':
-      row_ = std::min(row_ + count, rows_ - 1);
-      break;
-    case 'C':
-      column_ = std::min(column_ + count, columns_ - 1);
-      break;
-    case 'D':
-      column_ = std::max(column_ - count, 0);
-      break;
-    case 'G':
-      column_ = std::min(count, columns_) - 1;
-      break;
-    case 'd':
-      row_ = std::min(count, rows_) - 1;
-      break;
-    case 'Z':
-      column_ = (std::max(column_ - 1, 0) / 8) * 8;
-      break;
-    case 'K':
-      EraseLine(row_, first == 0 ? column_ : 0, first == 1 ? column_ + 1 : columns_);
-      break;
-    case 'J':
-      if (first == 0) EraseLine(row_, column_, columns_);
-      for (int row = first == 0 ? row_ + 1 : 0; row < rows_; ++row) EraseLine(row, 0, columns_);
-      break;
-    case 'X':
-      EraseLine(row_, column_, column_ + count);
-      break;
-    case 'P':
-      line.erase(cell, static_cast<std::size_t>(count));
-      line.resize(columns, U' ');
-      break;
-    case '@':
-      line.insert(cell, static_cast<std::size_t>(count), U' ');
-      line.resize(columns);
-      break;
-    case 'L':
-      ScrollDown(row_, std::min(count, rows_));
-      break;
-    case 'M':
-      ScrollUp(row_, std::min(count, rows_));
-      break;
-    case 'S':
-      ScrollUp(top_, std::min(count, rows_));
-      break;
-    case 'T':
-      ScrollDown(top_, std::min(count, rows_));
-      break;
-    case 'b':
-      for (int i = 0; i < count; ++i) Put(last_);
-      break;
-    case 'r':
-      top_ = std::min(count, rows_) - 1;
-      bottom_ = (second == 0 ? rows_ : std::min(second, rows_)) - 1;
-      row_ = column_ = 0;
-      break;
-    default:
-      break;
-  }
+  if (final == 'H' || final == 'f' || final == 'd') row_ = std::min(count, rows_) - 1;
+  if (final == 'H' || final == 'f') column_ = std::clamp(second, 1, columns_) - 1;
+  if (final == 'A') row_ = std::max(row_ - count, 0);
+  if (final == 'B') row_ = std::min(row_ + count, rows_ - 1);
+  if (final == 'C') column_ = std::min(column_ + count, columns_ - 1);
+  if (final == 'D') column_ = std::max(column_ - count, 0);
+  if (final == 'G') column_ = std::min(count, columns_) - 1;
+  if (final == 'Z') column_ = (std::max(column_ - 1, 0) / 8) * 8;
+  if (final == 'K') EraseLine(row_, first == 0 ? column_ : 0, first == 1 ? column_ + 1 : columns_);
+  if (final == 'J' && first == 0) EraseLine(row_, column_, columns_);
+  for (int row = first == 0 ? row_ + 1 : 0; final == 'J' && row < rows_; ++row) EraseLine(row, 0, columns_);
+  if (final == 'X') EraseLine(row_, column_, column_ + count);
+  if (final == 'P') line.erase(cell, static_cast<std::size_t>(count));
+  if (final == '@') line.insert(cell, static_cast<std::size_t>(count), U' ');
+  line.resize(static_cast<std::size_t>(columns_), U' ');
+  if (final == 'L') ScrollDown(row_, std::min(count, rows_));
+  if (final == 'M') ScrollUp(row_, std::min(count, rows_));
+  if (final == 'S') ScrollUp(top_, std::min(count, rows_));
+  if (final == 'T') ScrollDown(top_, std::min(count, rows_));
+  for (int i = 0; final == 'b' && i < count; ++i) Put(last_);
+  if (final != 'r') return;
+  top_ = std::min(count, rows_) - 1;
+  bottom_ = (second == 0 ? rows_ : std::min(second, rows_)) - 1;
+  row_ = column_ = 0;
 }
 
 }  // namespace veld::testing

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/form.h"
+#include "platform/platform.h"
 #include "rules/class_table.h"
 #include "steps/abilities/ability_effects_apply.h"
 #include "steps/classes/class_choice.h"

@@ -2,7 +2,10 @@
 
 #include <algorithm>
 
+#include "platform/form.h"
+#include "platform/platform.h"
 #include "rules/thief_tables.h"
+#include "text/format.h"
 
 namespace veld {
 

@@ -6,6 +6,7 @@
 #include "rules/race_table.h"
 #include "rules/spell_catalogue.h"
 #include "steps/classes/class_levels.h"
+#include "text/numbers.h"
 #include "text/search.h"
 
 namespace veld {

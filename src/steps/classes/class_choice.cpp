@@ -1,8 +1,11 @@
 #include "steps/classes/class_choice.h"
 
+#include "platform/form.h"
+#include "platform/platform.h"
 #include "rules/ability_effects.h"
 #include "rules/class_table.h"
 #include "rules/race_table.h"
+#include "text/format.h"
 
 namespace veld {
 

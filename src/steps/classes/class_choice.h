@@ -7,6 +7,8 @@
 
 namespace veld {
 
+class Form;
+
 /// The list of classes in the windows of Step 8 and Step 9.
 inline constexpr int kClassList = 3023;
 

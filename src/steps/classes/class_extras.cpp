@@ -4,6 +4,7 @@
 
 #include "rules/thief_tables.h"
 #include "steps/classes/allotments.h"
+#include "text/numbers.h"
 
 namespace veld {
 

@@ -8,6 +8,7 @@
 #include "rules/race_table.h"
 #include "steps/classes/allotments.h"
 #include "steps/classes/experience_ladder.h"
+#include "text/numbers.h"
 
 namespace veld {
 

@@ -4,6 +4,8 @@
 
 namespace veld {
 
+class Form;
+
 /// Turns the classes named in ClassName and the experience held into levels and into all that hangs on levels: hit
 /// points, hit dice, proficiency slots, saving throws, ability gains, thief abilities, movement, Honor Die, and the
 /// texts of classes and levels. Asks and opens dialogs only for levels gained. Repeating it changes nothing, save that

@@ -5,6 +5,7 @@
 
 #include "rules/class_table.h"
 #include "text/format.h"
+#include "text/numbers.h"
 
 namespace veld {
 

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "rules/honor_tables.h"
+#include "text/numbers.h"
 
 namespace veld {
 

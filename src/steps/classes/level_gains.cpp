@@ -1,5 +1,7 @@
 #include "steps/classes/level_gains.h"
 
+#include "text/numbers.h"
+
 namespace veld {
 
 namespace {

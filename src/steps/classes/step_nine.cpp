@@ -1,5 +1,7 @@
 #include "steps/classes/step_nine.h"
 
+#include "platform/form.h"
+#include "platform/platform.h"
 #include "rules/class_table.h"
 #include "steps/classes/class_choice.h"
 #include "steps/classes/class_recalculation.h"

@@ -1,6 +1,8 @@
 #include "steps/classes/take_after.h"
 
 #include "dice/building_points.h"
+#include "platform/form.h"
+#include "platform/platform.h"
 #include "rules/race_table.h"
 #include "steps/quirks/quirk_effects.h"
 #include "steps/race/race_choice.h"

@@ -3,6 +3,7 @@
 #include <initializer_list>
 
 #include "dice/building_points.h"
+#include "platform/platform.h"
 #include "rules/priors_tables.h"
 #include "rules/quirk_table.h"
 #include "steps/family/priors.h"

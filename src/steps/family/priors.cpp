@@ -1,8 +1,10 @@
 #include "steps/family/priors.h"
 
 #include "dice/dice.h"
+#include "platform/platform.h"
 #include "rules/priors_tables.h"
 #include "rules/race_table.h"
+#include "text/format.h"
 #include "text/numbers.h"
 #include "text/search.h"
 

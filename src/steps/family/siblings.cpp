@@ -5,6 +5,8 @@
 #include <cstdlib>
 
 #include "dice/dice.h"
+#include "platform/form.h"
+#include "platform/platform.h"
 #include "rules/priors_tables.h"
 #include "text/numbers.h"
 

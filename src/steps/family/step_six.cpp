@@ -1,8 +1,10 @@
 #include "steps/family/step_six.h"
 
 #include "platform/control_names.h"
+#include "platform/platform.h"
 #include "steps/family/prior_gates.h"
 #include "steps/family/priors.h"
+#include "text/format.h"
 
 namespace veld {
 

@@ -3,7 +3,10 @@
 #include <array>
 #include <string>
 
+#include "platform/form.h"
+#include "platform/platform.h"
 #include "rules/class_table.h"
+#include "rules/named_rows.h"
 #include "text/format.h"
 #include "text/search.h"
 
@@ -12,10 +15,6 @@ namespace veld {
 namespace {
 
 enum : int { kOk = 1, kAbort = 2, kAlignments = 4046 };
-
-// Rows of the quirk table.
-constexpr std::size_t kNaggingConscience = 64;
-constexpr std::size_t kJerk = 91;
 
 constexpr std::string_view kNotPicked = "Please Pick";
 
@@ -37,8 +36,8 @@ bool IsRealClass(const ClassRecord& row) {
   return row.ExperienceForLevel[2] > 0;
 }
 
-void GainQuirk(Game& game, std::size_t row, std::string_view name, std::string_view sentence) {
-  game.sheet.QuirkCounts[row] = 1;
+void GainQuirk(Game& game, int row, std::string_view name, std::string_view sentence) {
+  game.sheet.QuirkCounts[static_cast<std::size_t>(row)] = 1;
   game.platform.ShowMessage(Format("You just gained the %s quirk", name));
   game.sheet.OccupationEvents = std::string(game.sheet.OccupationEvents.View()) + std::string(sentence);
 }
@@ -86,10 +85,10 @@ std::vector<std::string_view> OpenAlignmentNames(const Game& game) {
 void ApplyAlignmentQuirks(Game& game) {
   const bool isGood = Contains(game.sheet.Alignment, "good");
   if (game.run.RiotVolunteer == 1 && !isGood) {
-    GainQuirk(game, kJerk, "Jerk", " You ended up becoming a jerk.");
+    GainQuirk(game, QuirkRow::Jerk, "Jerk", " You ended up becoming a jerk.");
   }
   if (game.run.VigilBuster == 1 && isGood) {
-    GainQuirk(game, kNaggingConscience, "Nagging Conscience", " You ended up with a nagging conscience.");
+    GainQuirk(game, QuirkRow::NaggingConscience, "Nagging Conscience", " You ended up with a nagging conscience.");
   }
 }
 

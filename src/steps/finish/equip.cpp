@@ -3,8 +3,11 @@
 #include <algorithm>
 #include <array>
 
+#include "platform/form.h"
+#include "platform/platform.h"
 #include "rules/equipment_catalogue.h"
 #include "steps/finish/equipment_purchase.h"
+#include "text/format.h"
 #include "text/search.h"
 
 namespace veld {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/platform.h"
+#include "rules/equipment_catalogue.h"
 #include "text/format.h"
 #include "text/numbers.h"
 #include "text/search.h"

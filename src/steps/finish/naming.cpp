@@ -1,5 +1,7 @@
 #include "steps/finish/naming.h"
 
+#include "platform/form.h"
+#include "platform/platform.h"
 #include "text/search.h"
 
 namespace veld {

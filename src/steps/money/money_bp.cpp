@@ -1,6 +1,9 @@
 #include "steps/money/money_bp.h"
 
+#include "platform/form.h"
+#include "platform/platform.h"
 #include "steps/money/starting_money.h"
+#include "text/format.h"
 
 namespace veld {
 

@@ -1,5 +1,7 @@
 #include "steps/money/step_ten.h"
 
+#include "platform/form.h"
+#include "platform/platform.h"
 #include "rules/race_table.h"
 #include "steps/money/money_bp.h"
 #include "steps/money/starting_money.h"

@@ -3,10 +3,13 @@
 #include <algorithm>
 
 #include "dice/keep_roll.h"
+#include "platform/form.h"
+#include "platform/platform.h"
 #include "steps/quirks/held_quirks.h"
 #include "steps/quirks/quirk_wipes.h"
 #include "steps/quirks/quirk_work.h"
 #include "steps/quirks/quirks_and_flaws.h"
+#include "text/format.h"
 #include "text/search.h"
 
 namespace veld {

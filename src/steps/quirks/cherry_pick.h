@@ -9,6 +9,8 @@
 
 namespace veld {
 
+class Form;
+
 /// Step 7: the CherryPick dialog. The player picks up to two minor and one major quirk or flaw from lists for 2 and 4
 /// BP, or enters how often to roll for them. CurrentStep becomes 8, or 1 on Abort.
 void RunCherryPick(Game& game);

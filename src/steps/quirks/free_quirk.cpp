@@ -1,5 +1,7 @@
 #include "steps/quirks/free_quirk.h"
 
+#include "platform/form.h"
+#include "platform/platform.h"
 #include "rules/quirk_table.h"
 #include "steps/quirks/held_quirks.h"
 #include "steps/quirks/quirk_work.h"

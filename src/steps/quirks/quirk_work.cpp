@@ -3,9 +3,12 @@
 #include <algorithm>
 
 #include "dice/keep_roll.h"
+#include "platform/platform.h"
 #include "rules/quirk_table.h"
 #include "steps/quirks/held_quirks.h"
 #include "steps/quirks/quirk_wipes.h"
+#include "text/format.h"
+#include "text/numbers.h"
 #include "text/search.h"
 
 namespace veld {

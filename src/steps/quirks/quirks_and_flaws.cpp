@@ -2,8 +2,11 @@
 
 #include <algorithm>
 
+#include "platform/form.h"
+#include "platform/platform.h"
 #include "steps/quirks/held_quirks.h"
 #include "steps/quirks/quirk_work.h"
+#include "text/format.h"
 
 namespace veld {
 

@@ -7,6 +7,8 @@
 
 namespace veld {
 
+class Form;
+
 // Step 7 by dice: the dialog in which the rolls owed are made.
 
 /// The most rolls on the 6A tables that a player asks for.

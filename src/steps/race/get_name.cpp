@@ -1,5 +1,8 @@
 #include "steps/race/get_name.h"
 
+#include "platform/form.h"
+#include "platform/platform.h"
+
 namespace veld {
 
 namespace {

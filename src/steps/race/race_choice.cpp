@@ -3,34 +3,37 @@
 #include "dice/dice.h"
 #include "rules/race_table.h"
 #include "steps/race/get_name.h"
+#include "store/sheet_accessors.h"
+#include "text/numbers.h"
 #include "text/search.h"
 
 namespace veld {
 
 namespace {
 
-// Rows of the named skills that a native language goes to, and the skill of the trail markers.
-constexpr std::size_t kModernLanguageRow = 7;
-constexpr std::size_t kReadingRow = 17;
-constexpr std::size_t kTrailMarkersSkill = 41;
 constexpr int kFullMastery = 100;
 
 constexpr int kBurnGain = 2;
 
-std::size_t Index(int number) { return static_cast<std::size_t>(number); }
+std::size_t Index(int number) {
+  return static_cast<std::size_t>(number);
+}
 
 const RaceRecord* RaceOf(const CharacterSheet& sheet) {
   const int row = FindRaceRow(sheet.RaceName, sheet.Gender);
   return row < 0 ? nullptr : &RaceTable()[Index(row)];
 }
 
-int& BaseWhole(BaseAbilities& base, int ability) { return base.Scores[Index(ability)].Whole; }
+int& BaseWhole(BaseAbilities& base, int ability) {
+  return base.Scores[Index(ability)].Whole;
+}
 
 }  // namespace
 
 BaseAbilities TakeBase(const Game& game) {
   BaseAbilities base;
-  for (int ability = 0; ability < kAbilityCount; ++ability) base.Scores[Index(ability)] = AbilityAt(game.sheet, ability);
+  for (int ability = 0; ability < kAbilityCount; ++ability)
+    base.Scores[Index(ability)] = AbilityAt(game.sheet, ability);
   base.BP = TruncateToInt(game.run.BuildingPoints);
   return base;
 }
@@ -45,7 +48,8 @@ std::vector<std::string> FittingRaces(const Game& game) {
   const auto scores = WholeScores(game.sheet);
   std::vector<std::string> races;
   for (int row = 0; row < kRacesFilled; ++row) {
-    if (game.IsOn(Index(RaceTable()[Index(row)].RuleSwitch)) && RaceFits(row, scores)) races.push_back(RaceListText(row));
+    if (game.IsOn(Index(RaceTable()[Index(row)].RuleSwitch)) && RaceFits(row, scores))
+      races.push_back(RaceListText(row));
   }
   return races;
 }
@@ -76,8 +80,8 @@ void BindRaceRow(Game& game) {
   if (!race) return;
   game.sheet.WeaponSizeClass = race->SizeClass;
   game.run.ClassAllowed = race->ClassLevelLimits;
-  if (game.sheet.TalentDetailCounts[2][0] > 0) {
-    const int takenAfter = FindTakenAfterRow(game.sheet.TalentDetailNames[2][0]);
+  if (const std::string_view other = RaceTakenAfter(game.sheet); !other.empty()) {
+    const int takenAfter = FindTakenAfterRow(other);
     if (takenAfter >= 0) game.run.ClassAllowed = RaceTable()[Index(takenAfter)].ClassLevelLimits;
   }
   if (Contains(game.sheet.ClassName, "/")) return;
@@ -135,7 +139,7 @@ void TakeNativeLanguage(Game& game, const std::string& language) {
   CharacterSheet& sheet = game.sheet;
   if (language.empty()) return;
   if (language == "Glersee") {
-    sheet.SkillScores[kTrailMarkersSkill] = kFullMastery;
+    sheet.SkillScores[SkillRow::TrailMarkers] = kFullMastery;
     return;
   }
   std::string name = language;
@@ -143,9 +147,9 @@ void TakeNativeLanguage(Game& game, const std::string& language) {
     const std::string dialect = AskName(game, "Choose the name of the human dialect");
     name = dialect.empty() ? "Human Dialect" : "Human Dialect: " + dialect;
   }
-  sheet.SkillDetailNames[kModernLanguageRow][0] = "Language, Modern: " + name;
-  sheet.SkillDetailCounts[kModernLanguageRow][0] = kFullMastery;
-  sheet.SkillDetailNames[kReadingRow][0] = "Reading/Writing: " + name;
+  NativeLanguageName(sheet) = "Language, Modern: " + name;
+  NativeLanguageMastery(sheet) = kFullMastery;
+  NativeWritingName(sheet) = "Reading/Writing: " + name;
 }
 
 }  // namespace veld

@@ -2,8 +2,11 @@
 
 #include <algorithm>
 
+#include "platform/form.h"
+#include "platform/platform.h"
 #include "steps/race/race_choice.h"
 #include "steps/race/step_three_menu.h"
+#include "text/format.h"
 
 namespace veld {
 
@@ -22,7 +25,8 @@ constexpr std::string_view kHelpText =
     "HELP\n\n"
     "To complete this section you must select a race.\n\n"
     "You can activate the menu by right-clicking.\n\n"
-    "From the menu you can adjust ability scores, burn for BP and even enter your own dice rolls. (3-18 please, you are "
+    "From the menu you can adjust ability scores, burn for BP and even enter your own dice rolls. (3-18 please, you "
+    "are "
     "playing Quellmarch, right?)\n\n"
     "For all other questions, look in your Adventurer's Codex!";
 
@@ -63,8 +67,8 @@ constexpr int kEntryOk = 1;
 constexpr int kEntryAbort = 2;
 
 constexpr auto kEnterAbilityControls = [] {
-  constexpr std::string_view kNames[] = {"Strength",     "Dexterity", "Constitution", "Intelligence",
-                                         "Wisdom",       "Charisma",  "Comeliness"};
+  constexpr std::string_view kNames[] = {"Strength", "Dexterity", "Constitution", "Intelligence",
+                                         "Wisdom",   "Charisma",  "Comeliness"};
   std::array<ControlTemplate, 3 * kAbilityCount + 5> controls{};
   std::size_t next = 0;
   controls[next++] = TitleAt(0, 0, "Enter Ability Scores", 3);
@@ -160,8 +164,8 @@ std::string ChosenLanguage(const Form& form) {
   return form.Selection(kLanguages) < 0 ? languages.front() : form.SelectedText(kLanguages);
 }
 
-/// Enter Stats takes the scores as they stand, entered or not, for the new base, and forfeits all BP: after an Abort with
-/// a race chosen its modifiers are in the base from then on.
+/// Enter Stats takes the scores as they stand, entered or not, for the new base, and forfeits all BP: after an Abort
+/// with a race chosen its modifiers are in the base from then on.
 void EnterStats(Game& game, StepThreeWindow& window) {
   RunEnterAbility(game);
   RefreshAbilityDisplay(game, window.form);

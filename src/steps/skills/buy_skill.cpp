@@ -2,11 +2,13 @@
 
 #include "dice/building_points.h"
 #include "dice/dice.h"
+#include "platform/platform.h"
 #include "rules/skill_prices.h"
 #include "steps/race/get_name.h"
 #include "steps/skills/skill_buyer.h"
 #include "steps/skills/skill_suites.h"
 #include "steps/skills/skill_target.h"
+#include "text/format.h"
 #include "text/numbers.h"
 #include "text/search.h"
 

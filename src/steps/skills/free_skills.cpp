@@ -1,5 +1,6 @@
 #include "steps/skills/free_skills.h"
 
+#include "platform/platform.h"
 #include "steps/skills/buy_skill.h"
 #include "steps/skills/skill_lists.h"
 #include "steps/skills/skill_target.h"

@@ -3,6 +3,8 @@
 #include <array>
 #include <utility>
 
+#include "platform/form.h"
+#include "platform/platform.h"
 #include "rules/proficiency_table.h"
 #include "rules/skill_table.h"
 #include "steps/skills/buy_skill.h"

@@ -5,6 +5,7 @@
 #include "rules/purchase_rules.h"
 #include "steps/skills/buy_skill.h"
 #include "steps/skills/skill_target.h"
+#include "text/format.h"
 #include "text/numbers.h"
 
 namespace veld {

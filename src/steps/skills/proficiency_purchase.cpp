@@ -6,6 +6,7 @@
 #include "rules/class_table.h"
 #include "rules/proficiency_table.h"
 #include "steps/skills/pick_dialogs.h"
+#include "store/sheet_accessors.h"
 #include "text/format.h"
 #include "text/numbers.h"
 #include "text/search.h"
@@ -13,11 +14,6 @@
 namespace veld {
 
 namespace {
-
-// Rows of the class table.
-constexpr std::size_t kFighter = 3;
-constexpr std::size_t kKnightErrant = 8;
-constexpr std::size_t kGladiator = 61;
 
 constexpr int kMasteryLevel = 5;          ///< as a Fighter
 constexpr int kMostSingleWeapon = 4;      ///< steps of the style that is counted in multiples
@@ -49,13 +45,9 @@ bool IsHeld(int level) {
   return level >= ProficiencyMark::Proficient || level == ProficiencyMark::Limited;
 }
 
-bool HasLevelIn(const Game& game, std::size_t classRow) {
-  return game.sheet.ClassLevels[classRow] > 0;
-}
-
 /// A row of which more than one step is a matter of taking it again.
 bool CanBeTakenAgain(int row) {
-  return row == kSingleWeaponStyle || WeaponAt(row).Kind == ProficiencyKind::Repeatable;
+  return row == ProficiencyRow::SingleWeaponStyle || WeaponAt(row).Kind == ProficiencyKind::Repeatable;
 }
 
 void Charge(Game& game, int slots, int bp) {
@@ -71,7 +63,7 @@ std::string SlotsOutText(const Game& game) {
 
 std::string ObstacleToAddWeapon(const Game& game, int row) {
   const int level = LevelOf(game, row);
-  if (row == kSingleWeaponStyle && level >= kMostSingleWeapon) return "You have all of its steps.";
+  if (row == ProficiencyRow::SingleWeaponStyle && level >= kMostSingleWeapon) return "You have all of its steps.";
   if (level >= ProficiencyMark::Proficient && !CanBeTakenAgain(row)) return "You are proficient in it.";
   return {};
 }
@@ -219,7 +211,7 @@ std::string SpecializationObstacle(const Game& game, int row, int direction) {
                                                : "Specialization needs a full proficiency.";
   }
   if (game.sheet.FreeWeaponProficiencySlots <= 0) return "You have no step of Specialization to take.";
-  if (HasLevelIn(game, kKnightErrant)) return {};
+  if (HasClass(game.sheet, ClassRow::KnightErrant)) return {};
   if (ProficiencySlotsAreOut(game)) return SlotsOutText(game);
   if (CanPay(game, static_cast<float>(cost))) return {};
   return Format("Specialization costs %i BP and you have %g.", cost, game.run.BuildingPoints);
@@ -237,7 +229,7 @@ bool Specialize(Game& game, int row, int direction) {
     game.sheet.FreeWeaponProficiencySlots = AddSaturated(game.sheet.FreeWeaponProficiencySlots, -direction);
     Charge(game, cost, cost);
   }
-  if (HasLevelIn(game, kKnightErrant)) {
+  if (HasClass(game.sheet, ClassRow::KnightErrant)) {
     game.run.BuildingPoints = bp;
     game.sheet.ProficiencySlotsUsed = used;
   }
@@ -252,7 +244,7 @@ std::string MasteryObstacle(const Game& game, int row, int direction) {
   }
   if (direction < 0) return {};
   if (ProficiencySlotsAreOut(game)) return SlotsOutText(game);
-  if (game.sheet.ClassLevels[kFighter] < kMasteryLevel) return "Mastery needs the 5th level as a Fighter.";
+  if (game.sheet.ClassLevels[ClassRow::Fighter] < kMasteryLevel) return "Mastery needs the 5th level as a Fighter.";
   const int cost = WeaponAt(row).SpecializationCost;
   if (CanPay(game, static_cast<float>(cost))) return {};
   return Format("A step of Mastery costs %i BP and you have %g.", cost, game.run.BuildingPoints);
@@ -270,9 +262,9 @@ bool Master(Game& game, int row, int direction) {
 
 bool ClassMayLearn(const Game& game, const ProficiencyPlace& place) {
   if (place.IsNone()) return false;
-  for (std::size_t row = 0; row < At(kClassRows); ++row) {
-    if (!HasLevelIn(game, row)) continue;
-    const ClassRecord& record = ClassTable()[row];
+  for (int row = 0; row < kClassRows; ++row) {
+    if (!HasClass(game.sheet, row)) continue;
+    const ClassRecord& record = ClassTable()[At(row)];
     const bool isAbility = place.Ability >= 0;
     if ((isAbility ? record.Weapon2Allowed[At(place.Ability)] : record.WeaponAllowed[At(place.Row)]) != 0) return true;
   }
@@ -287,7 +279,7 @@ bool IsOffered(const Game& game, const ProficiencyRecord& record, const Proficie
 }
 
 std::string HeldText(int row, int level) {
-  if (row == kSingleWeaponStyle) return Format("%s x%i", WeaponName(row), level);
+  if (row == ProficiencyRow::SingleWeaponStyle) return Format("%s x%i", WeaponName(row), level);
   if (level == ProficiencyMark::Limited) return Format("%s - Limited", WeaponName(row));
   if (level > ProficiencyMark::Proficient) return Format("%s - x%i", WeaponName(row), level);
   return std::string(WeaponName(row));
@@ -330,7 +322,7 @@ std::vector<ProficiencyLine> ProficienciesHeld(const Game& game) {
 std::vector<ProficiencyLine> Specializations(const Game& game) {
   std::vector<ProficiencyLine> lines;
   for (int row = 0; row < kProficiencyTableRows; ++row) {
-    if (WeaponAt(row).Name.empty() || row == kSingleWeaponStyle) continue;
+    if (WeaponAt(row).Name.empty() || row == ProficiencyRow::SingleWeaponStyle) continue;
     if (LevelOf(game, row) < ProficiencyMark::Specialized) continue;
     lines.push_back({{.Row = row}, std::string(WeaponName(row))});
   }
@@ -338,11 +330,11 @@ std::vector<ProficiencyLine> Specializations(const Game& game) {
 }
 
 int SpecializationPrice(const Game& game, int row) {
-  return HasLevelIn(game, kKnightErrant) ? 0 : WeaponAt(row).SpecializationCost;
+  return HasClass(game.sheet, ClassRow::KnightErrant) ? 0 : WeaponAt(row).SpecializationCost;
 }
 
 int ProficiencySlotCost(const Game& game, int row) {
-  return HasLevelIn(game, kGladiator) && WeaponAt(row).Kind == ProficiencyKind::Missile ? 2 : 1;
+  return HasClass(game.sheet, ClassRow::Gladiator) && WeaponAt(row).Kind == ProficiencyKind::Missile ? 2 : 1;
 }
 
 bool ProficiencySlotsAreOut(const Game& game) {

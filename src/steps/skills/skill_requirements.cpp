@@ -1,5 +1,6 @@
 #include "steps/skills/skill_requirements.h"
 
+#include "platform/platform.h"
 #include "rules/skill_prices.h"
 #include "steps/skills/skill_buyer.h"
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/form.h"
+#include "platform/platform.h"
 #include "rules/race_table.h"
 #include "rules/skill_prices.h"
 #include "steps/skills/buy_skill.h"
@@ -14,6 +16,7 @@
 #include "steps/skills/talents.h"
 #include "steps/skills/tattoo.h"
 #include "steps/skills/weapon_prof.h"
+#include "text/format.h"
 #include "text/numbers.h"
 #include "text/search.h"
 

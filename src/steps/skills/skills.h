@@ -6,6 +6,8 @@
 
 namespace veld {
 
+class Form;
+
 // What the Skills dialog shows of the skill selected.
 namespace SkillsControl {
 inline constexpr int Price = 90;

@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "dice/building_points.h"
+#include "platform/platform.h"
+#include "rules/named_rows.h"
 #include "rules/talent_prices.h"
 #include "rules/talent_table.h"
 #include "steps/race/get_name.h"
@@ -45,10 +47,9 @@ bool IsGivenByRace(const Game& game, const TalentPlace& place) {
 
 /// The family whose first item is the race that a half-blood takes after. Its name is that race's alone: the limits of
 /// the classes are looked up by it.
-constexpr int kTakeAfterFamily = 2;
 
 bool IsTakeAfter(const TalentPlace& place) {
-  return place.Family == kTakeAfterFamily;
+  return place.Family == TalentFamily::TakeAfter;
 }
 
 /// How an item stands in the lists.

@@ -1,5 +1,6 @@
 #include "steps/skills/talents.h"
 
+#include "platform/platform.h"
 #include "steps/skills/line_lists.h"
 #include "text/format.h"
 #include "text/numbers.h"

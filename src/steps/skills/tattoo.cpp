@@ -3,6 +3,8 @@
 #include <algorithm>
 
 #include "dice/building_points.h"
+#include "platform/form.h"
+#include "platform/platform.h"
 #include "rules/race_table.h"
 #include "steps/abilities/ability_effects_apply.h"
 #include "text/format.h"

@@ -1,5 +1,6 @@
 #include "steps/skills/weapon_prof.h"
 
+#include "platform/platform.h"
 #include "rules/proficiency_table.h"
 #include "steps/skills/line_lists.h"
 #include "text/format.h"

@@ -4,12 +4,18 @@
 #include <array>
 #include <cmath>
 #include <span>
+#include <vector>
 
 #include "dice/building_points.h"
 #include "dice/dice.h"
+#include "platform/platform.h"
 #include "rules/spell_book_tables.h"
+#include "rules/spell_catalogue.h"
 #include "store/safe_file.h"
+#include "store/sheet_accessors.h"
 #include "text/file_name.h"
+#include "text/format.h"
+#include "text/numbers.h"
 
 namespace veld {
 
@@ -54,7 +60,7 @@ std::string Ordinal(std::size_t number) {
 }
 
 int RollBookFormat(Game& game) {
-  const bool oldSchool = game.sheet.QuirkCounts[kOldSchoolMentor] > 0;
+  const bool oldSchool = HasQuirk(game.sheet, QuirkRow::OldSchoolMentor);
   return RollKept(
       game, [&](int roll) { return BookFormatOf(roll, oldSchool); },
       [](int format) {
@@ -105,7 +111,7 @@ std::vector<std::size_t> LooseSpells(const Game& game) {
 
 /// Pages that a known spell takes.
 int PagesOfSpell(const Game& game, std::size_t row) {
-  const int perMark = game.sheet.QuirkCounts[kLargeHandwriting] > 0 ? 2 : 1;
+  const int perMark = HasQuirk(game.sheet, QuirkRow::LargeHandwriting) ? 2 : 1;
   return SaturateToInt(std::int64_t{game.sheet.SpellsKnown[row]} * perMark);
 }
 

@@ -4,10 +4,6 @@
 
 namespace veld {
 
-// Quirk rows that change a spell book.
-inline constexpr std::size_t kLargeHandwriting = 308;  ///< doubles the pages of a spell
-inline constexpr std::size_t kOldSchoolMentor = 324;   ///< moves Table 7G one row down
-
 /// A mage's first spell book: rolls Tables 7G, 7G1 and 7G2 (or 7H for what is no book), each with the offer to re-roll
 /// for 1 BP, and writes the known spells that are in no book into it. What its pages, or its list of 100 names, can't
 /// hold goes into further books of the same make ("Second Spellbook"). With no such spell no book is made.

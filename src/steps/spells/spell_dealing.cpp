@@ -1,8 +1,11 @@
 #include "steps/spells/spell_dealing.h"
 
 #include <algorithm>
+#include <vector>
 
 #include "dice/dice.h"
+#include "rules/spell_catalogue.h"
+#include "store/sheet_accessors.h"
 #include "text/search.h"
 
 namespace veld {
@@ -14,11 +17,13 @@ constexpr int kMostAnyRolls = 10'000;
 constexpr int kPaintedMagePicks = 4;
 constexpr int kFirstLevel = 1;
 
-bool HasMentor(const Game& game, std::size_t quirk) { return game.sheet.QuirkCounts[quirk] > 0; }
-/// Both the Pacifist and the Wuss keep their students from spells of attack.
-bool LearnsNoAttack(const Game& game) { return HasMentor(game, kPacifistMentor) || HasMentor(game, kWussMentor); }
+bool LearnsNoAttack(const Game& game) {
+  return HasQuirk(game.sheet, QuirkRow::PacifistMentor) || HasQuirk(game.sheet, QuirkRow::WussMentor);
+}
 
-int& Mark(Game& game, int row) { return game.sheet.SpellsKnown[static_cast<std::size_t>(row)]; }
+int& Mark(Game& game, int row) {
+  return game.sheet.SpellsKnown[static_cast<std::size_t>(row)];
+}
 
 bool IsFree(const Game& game, int row) {
   return row >= 0 && game.sheet.SpellsKnown[static_cast<std::size_t>(row)] == kUnknownSpell;
@@ -88,8 +93,8 @@ bool CanDeal(const Game& game, const SchoolSection& section) {
   return false;
 }
 
-/// What a specialist's die says for a level: a spell of the book's section if its row is of that level, else any unknown
-/// one of the level and school. A spell that is known, barred or kept back by a mentor is drawn again.
+/// What a specialist's die says for a level: a spell of the book's section if its row is of that level, else any
+/// unknown one of the level and school. A spell that is known, barred or kept back by a mentor is drawn again.
 void DealSchoolSpell(Game& game, const SpecialistSchool& school, int level) {
   const SchoolSection* section = FindSchoolSection(school.Specialist, level);
   const int mostRolls = section && CanDeal(game, *section) ? kMostDealRolls : 0;
@@ -119,8 +124,8 @@ void DealAnyFirstLevel(Game& game) {
 /// The tables that a mage without a school is dealt from, in order; what is beyond them comes from any table.
 std::vector<FirstLevelTable> PlainTables(const Game& game) {
   using enum FirstLevelTable;
-  if (HasMentor(game, kPacifistMentor)) return {A, B, A};
-  if (HasMentor(game, kWussMentor)) return {A, B};
+  if (HasQuirk(game.sheet, QuirkRow::PacifistMentor)) return {A, B, A};
+  if (HasQuirk(game.sheet, QuirkRow::WussMentor)) return {A, B};
   return {C, B, A};
 }
 
@@ -128,7 +133,8 @@ std::vector<FirstLevelTable> PlainTables(const Game& game) {
 /// table A.
 void DealPlain(Game& game, int picks, bool isWild) {
   const std::vector<FirstLevelTable> tables = PlainTables(game);
-  const bool endsWithTables = HasMentor(game, kWussMentor) && !HasMentor(game, kPacifistMentor);
+  const bool endsWithTables =
+      HasQuirk(game.sheet, QuirkRow::WussMentor) && !HasQuirk(game.sheet, QuirkRow::PacifistMentor);
   for (std::size_t pick = 0; pick < static_cast<std::size_t>(std::max(picks, 0)); ++pick) {
     if (pick >= tables.size()) {
       if (endsWithTables) return;
@@ -210,14 +216,14 @@ bool DealFirstLevelSpell(Game& game, FirstLevelTable table) {
 
 void GrantStartingSpells(Game& game) {
   if (game.run.StartingSpells < 0) return;
-  if (HasMentor(game, kGimpMentor)) {
+  if (HasQuirk(game.sheet, QuirkRow::GimpMentor)) {
     BarSpells(game, [](const SpellRecord& spell) { return Contains(spell.Component, "S"); });
   }
   if (const SpecialistSchool* school = FindSpecialist(game.sheet.ClassName);
       school && Contains(game.sheet.ClassName, "Double")) {
     BarSchools(game, school->DoubleBars);
   }
-  game.run.StartingSpells = CapStartingSpells(game.run.StartingSpells, HasMentor(game, kChintzyMentor));
+  game.run.StartingSpells = CapStartingSpells(game.run.StartingSpells, HasQuirk(game.sheet, QuirkRow::ChintzyMentor));
   DealByClass(game, game.run.StartingSpells);
 }
 
@@ -231,7 +237,9 @@ void GrantReadingAndWriting(Game& game) {
   }
 }
 
-void LiftSpellBars(Game& game) { std::ranges::replace(game.sheet.SpellsKnown, kBarredSpell, kUnknownSpell); }
+void LiftSpellBars(Game& game) {
+  std::ranges::replace(game.sheet.SpellsKnown, kBarredSpell, kUnknownSpell);
+}
 
 void LearnSpell(Game& game, std::size_t row) {
   if (row >= kSpellRows || game.SpellTable[row].Name == "Empty") return;
@@ -245,7 +253,8 @@ void ForgetSpell(Game& game, std::size_t row) {
 
 int KnownCantrips(const Game& game) {
   const auto& known = game.sheet.SpellsKnown;
-  return static_cast<int>(std::count_if(known.begin(), known.begin() + kCantripRows, [](int mark) { return mark > 0; }));
+  return static_cast<int>(
+      std::count_if(known.begin(), known.begin() + kCantripRows, [](int mark) { return mark > 0; }));
 }
 
 }  // namespace veld

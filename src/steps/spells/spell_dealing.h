@@ -5,23 +5,17 @@
 
 namespace veld {
 
-// Quirk rows of the mentors who limit what a young mage learns.
-inline constexpr std::size_t kChintzyMentor = 322;  ///< gives fewer spells and cantrips
-inline constexpr std::size_t kGimpMentor = 323;     ///< teaches nothing with a somatic component
-inline constexpr std::size_t kPacifistMentor = 325; ///< teaches no spell of attack
-inline constexpr std::size_t kWussMentor = 327;     ///< the same, and fewer
-
 /// Marks of a spell row in SpellsKnown; above 0 it is known, and the number is the pages that it takes in a book.
 inline constexpr int kUnknownSpell = 0;
 inline constexpr int kBarredSpell = -1;  ///< for the length of the dealing
 
 /// Gives a mage the starting spells of the class, as mentors and given-up schools allow. What is barred stays marked
-/// until FinishSpellList. A specialist gets school spells for each level that has slots in SpellsPerLevel. Nothing for a
-/// character with StartingSpells -1 (a youth without spells).
+/// until FinishSpellList. A specialist gets school spells for each level that has slots in SpellsPerLevel. Nothing for
+/// a character with StartingSpells -1 (a youth without spells).
 void GrantStartingSpells(Game& game);
 
-/// "Read Magic" and "Write" that every mage holds, and the end of all bars. The free spells of a school youth are chosen
-/// between the two (see spell_selection.h).
+/// "Read Magic" and "Write" that every mage holds, and the end of all bars. The free spells of a school youth are
+/// chosen between the two (see spell_selection.h).
 void GrantReadingAndWriting(Game& game);
 void LiftSpellBars(Game& game);
 

@@ -2,7 +2,11 @@
 
 #include <algorithm>
 
+#include "platform/form.h"
+#include "platform/platform.h"
 #include "steps/spells/spell_dealing.h"
+#include "store/sheet_accessors.h"
+#include "text/format.h"
 
 namespace veld {
 
@@ -18,8 +22,8 @@ constexpr int kClose = 2;
 constexpr int kSlotsText = 121;
 constexpr int kFirstNote = 200;
 
-constexpr std::string_view kNotes[] = {"Name",       "School",       "Specialization", "Range",        "Components",
-                                       "Duration",   "Casting Time", "Area of Effect", "Saving Throw", "Category"};
+constexpr std::string_view kNotes[] = {"Name",     "School",       "Specialization", "Range",        "Components",
+                                       "Duration", "Casting Time", "Area of Effect", "Saving Throw", "Category"};
 constexpr int kNoteRows = static_cast<int>(std::size(kNotes)) / 2;
 constexpr int kNoteWidth = 30;
 constexpr int kListWidth = 34;
@@ -88,8 +92,8 @@ struct SpellLists {
   void ShowSpell(std::size_t row) const {
     if (row >= kSpellRows) return;
     const SpellRecord& spell = game.SpellTable[row];
-    const std::string_view notes[] = {spell.Name,      spell.Type,         spell.Specialization, spell.Range,
-                                      spell.Component, spell.Duration,     spell.CastingTime,    spell.AreaOfEffect,
+    const std::string_view notes[] = {spell.Name,        spell.Type,     spell.Specialization, spell.Range,
+                                      spell.Component,   spell.Duration, spell.CastingTime,    spell.AreaOfEffect,
                                       spell.SavingThrow, spell.Category};
     for (std::size_t note = 0; note < std::size(notes); ++note) {
       form.SetText(kFirstNote + static_cast<int>(note), notes[note]);
@@ -137,7 +141,7 @@ void RunCantripDialog(Game& game) {
 }  // namespace
 
 int CantripsToChoose(const Game& game) {
-  const bool isChintzy = game.sheet.QuirkCounts[kChintzyMentor] > 0;
+  const bool isChintzy = HasQuirk(game.sheet, QuirkRow::ChintzyMentor);
   const int allowed = CantripAllowance(game.sheet.Intelligence.Whole, isChintzy);
   const int slots = std::max(game.run.SpellListIndex, 0);
   return isChintzy ? std::min(slots, allowed) : slots;
@@ -159,7 +163,9 @@ std::vector<std::size_t> SpellsHeld(const Game& game, std::string_view category)
   return rows;
 }
 
-bool HasSpells(const Game& game) { return game.run.SpellListIndex != -1 || game.run.StartingSpells != 0; }
+bool HasSpells(const Game& game) {
+  return game.run.SpellListIndex != -1 || game.run.StartingSpells != 0;
+}
 
 void RunSpellSellection(Game& game) {
   GrantStartingSpells(game);

