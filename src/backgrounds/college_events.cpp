@@ -8,11 +8,11 @@
 #include "backgrounds/youth_quirks.h"
 #include "dice/building_points.h"
 #include "dice/dice.h"
+#include "platform/ask_name.h"
 #include "platform/form.h"
 #include "platform/platform.h"
 #include "rules/school_tables.h"
 #include "rules/skill_table.h"
-#include "steps/race/get_name.h"
 #include "steps/skills/grants.h"
 #include "steps/skills/skill_target.h"
 #include "text/format.h"
@@ -63,13 +63,13 @@ int RollCustoms(Game& game) {
 }
 
 std::string AskInstrument(Game& game, std::string_view instrument) {
-  return AskName(game, Format("Enter the name of your free %s", instrument));
+  return AskName(game.platform, Format("Enter the name of your free %s", instrument));
 }
 
 /// The member that a row of a subtable brings: a custom, or an instrument of the student corps.
 void GiveNamedMember(Game& game, std::string_view family) {
   if (family == kCustoms) {
-    const std::string name = AskName(game, Format("Choose the name of the Item for your %s Skill.", family));
+    const std::string name = AskName(game.platform, Format("Choose the name of the Item for your %s Skill.", family));
     if (!name.empty()) GiveMember(game, family, name, RollCustoms(game));
     return;
   }
@@ -141,7 +141,7 @@ void PlayPrank(Game& game) {
 
 /// The roommate teaches the customs of the culture, and its language if there is room for one.
 void LiveWithForeigner(Game& game) {
-  const std::string culture = AskName(game, "Enter the name of the Foreign Culture from which your roommate hails");
+  const std::string culture = AskName(game.platform, "Enter the name of the Foreign Culture from which your roommate hails");
   if (TrimRight(culture).empty()) return;
   GiveMember(game, kCustoms, culture, RollCustoms(game));
   CharacterSheet& sheet = game.sheet;

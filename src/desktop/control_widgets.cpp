@@ -49,8 +49,9 @@ QWidget* MakeText(const PaperStyle& style, QWidget* page) {
   return text;
 }
 
-QWidget* MakeEdit(QWidget* page) {
+QWidget* MakeEdit(const Control& control, QWidget* page) {
   auto* edit = new QLineEdit(page);
+  edit->setReadOnly(control.Template.IsReadOnly);
   edit->setTextMargins(3, 0, 3, 0);
   return edit;
 }
@@ -76,7 +77,7 @@ QWidget* MakeProgress(QWidget* page) {
 void ShowLine(QLineEdit& edit, const std::string& text) {
   const QString line = ToQtLine(text);
   if (edit.text() == line) return;
-  const int cursor = edit.cursorPosition();
+  const int cursor = edit.isReadOnly() ? 0 : edit.cursorPosition();
   edit.setText(line);
   edit.setCursorPosition(std::min(cursor, static_cast<int>(line.size())));
 }
@@ -108,7 +109,7 @@ QWidget* MakeControlWidget(const Control& control, const PaperStyle& style, QWid
       return MakeText(style, page);
     case ControlKind::Edit:
     case ControlKind::Number:
-      return MakeEdit(page);
+      return MakeEdit(control, page);
     case ControlKind::MultiLine:
       return MakeMultiLine(style, page);
     case ControlKind::Button:

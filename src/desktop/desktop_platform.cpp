@@ -1,6 +1,7 @@
 #include "desktop/desktop_platform.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QEventLoop>
 #include <QFile>
@@ -113,6 +114,11 @@ DesktopPlatform::DesktopPlatform(Settings settings) : settings_(settings) {
 }
 
 DesktopPlatform::~DesktopPlatform() = default;
+
+bool DesktopPlatform::CopyText(std::string_view text) {
+  QGuiApplication::clipboard()->setText(ToQt(text));
+  return true;
+}
 
 /// The style of pages, made when the first one is: fonts come last, as long as they are still being read.
 const PaperStyle& DesktopPlatform::Style() {

@@ -40,6 +40,7 @@ class DesktopPlatform : public Platform {
   void BeginProgress(std::string_view caption, std::string_view text) override;
   bool ShowProgress(int percent) override;
   void EndProgress() override;
+  bool CopyText(std::string_view text) override;
 
  protected:
   std::optional<std::string> DoAskOpenPath(const std::string& caption, std::span<const FileFilter> filters) override;

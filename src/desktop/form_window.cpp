@@ -180,6 +180,7 @@ void FormWindow::NameControls() {
     if (name.isEmpty()) continue;
     // A result, a button and a check or radio button are read by their own text.
     if (kind == ControlKind::Result) widgets_[i]->setAccessibleDescription(name);
+    if (HasMnemonic(kind) && form_.Controls()[i].Text.empty()) widgets_[i]->setAccessibleName(name);
     if (IsTyped(kind) || IsChosenFrom(kind) || kind == ControlKind::Text || kind == ControlKind::Progress) {
       widgets_[i]->setAccessibleName(name);
     }
@@ -212,7 +213,8 @@ void FormWindow::FocusFirst() {
 void FormWindow::TakeFocus(std::size_t control) {
   QWidget* widget = widgets_[control];
   widget->setFocus(Qt::OtherFocusReason);
-  if (auto* edit = qobject_cast<QLineEdit*>(widget)) edit->selectAll();
+  auto* edit = qobject_cast<QLineEdit*>(widget);
+  if (edit && !edit->isReadOnly()) edit->selectAll();
   scroll_->ensureWidgetVisible(widget);
 }
 
@@ -364,13 +366,21 @@ void FormWindow::reject() {
   if (!form_.IsClosed()) Act([this] { form_.PressCloseBox(); });
 }
 
-/// Enter presses the button that has the focus, else the default one. A key held down does not press on and on, through
+/// Up and Down keep to their column where fields stand in a table. Enter presses the button that has the focus, else
+/// that of the field, else the default one. A key held down does not press on and on, through
 /// one form after another.
 void FormWindow::keyPressEvent(QKeyEvent* event) {
+  const auto focus = static_cast<std::size_t>(std::ranges::find(widgets_, focusWidget()) - widgets_.begin());
+  if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) {  // a field leaves them to the page
+    const std::size_t count = widgets_.size();
+    const int rows = event->key() == Qt::Key_Up ? -1 : 1;
+    const std::size_t next = focus < count ? ControlInNextRow(form_, focus, rows) : count;
+    if (next < count) return TakeFocus(next);
+  }
   if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return QDialog::keyPressEvent(event);
   if (event->isAutoRepeat()) return;
   if (auto* button = qobject_cast<QPushButton*>(focusWidget()); button && button->isEnabled()) return button->click();
-  Act([this] { form_.PressDefault(); });
+  Act([this, focus] { form_.PressEnterAt(focus); });
 }
 
 void FormWindow::contextMenuEvent(QContextMenuEvent* event) {

@@ -2,6 +2,7 @@
 
 #include <limits>
 #include <optional>
+#include <utility>
 
 #include "dice/random.h"
 #include "dice/typed_dice.h"
@@ -108,14 +109,40 @@ int ConstitutionFloor(int constitution) {
 
 }  // namespace
 
+namespace {
+
+constexpr std::size_t kLogPiece = 64 * 1024;
+
+void WriteGathered(DiceState& dice) {
+  if (dice.LogLines.empty()) return;
+  dice.LogLines.pop_back();  // the last line's end, which AppendLine writes
+  AppendLine(dice.LogFile, dice.LogLines);
+  dice.LogLines.clear();
+}
+
+}  // namespace
+
+HeldDiceLog::HeldDiceLog(Game& game) : game_(game), before_(game.dice.LogMode) {
+  if (before_ != DiceLogMode::EachLine) return;
+  game.dice.LogMode = DiceLogMode::HeldOpen;
+  game.dice.LogFile = OpenLog(kDiceLog);
+}
+
+HeldDiceLog::~HeldDiceLog() {
+  if (before_ != DiceLogMode::EachLine) return;
+  WriteGathered(game_.dice);
+  CloseLog(std::exchange(game_.dice.LogFile, -1));
+  game_.dice.LogMode = before_;
+}
+
 void LogDiceLine(Game& game, std::string_view line) {
   switch (game.dice.LogMode) {
     case DiceLogMode::EachLine:
       AppendLine(kDiceLog, line);
       break;
     case DiceLogMode::HeldOpen:
-      if (game.dice.LogFile < 0) game.dice.LogFile = OpenLog(kDiceLog);
-      AppendLine(game.dice.LogFile, line);
+      (game.dice.LogLines += line) += '\n';
+      if (game.dice.LogLines.size() >= kLogPiece) WriteGathered(game.dice);
       break;
     case DiceLogMode::Off:
       break;

@@ -33,6 +33,20 @@ int RollHitPointDice(Game& game, int sides, int count);
 /// Rolls the seven abilities (3d6 each), then their percentile points (1d100 each).
 void RollAbilityScores(Game& game);
 
+/// Holds dice.log open for a run of many rolls: their lines are gathered and written in large pieces. At the end all of
+/// them stand in the file and the game logs as before.
+class HeldDiceLog {
+ public:
+  explicit HeldDiceLog(Game& game);
+  ~HeldDiceLog();
+  HeldDiceLog(const HeldDiceLog&) = delete;
+  HeldDiceLog& operator=(const HeldDiceLog&) = delete;
+
+ private:
+  Game& game_;
+  DiceLogMode before_;
+};
+
 /// One line in dice.log.
 void LogDiceLine(Game& game, std::string_view line);
 

@@ -6,7 +6,6 @@
 #include "dice/dice.h"
 #include "dice/typed_dice.h"
 #include "platform/platform.h"
-#include "store/log_file.h"
 #include "text/format.h"
 
 namespace veld {
@@ -51,18 +50,17 @@ void RunDiceTester(Game& game) {
     game.platform.ShowMessage("Dice Tester is inactive while you are set to roll your own dice.");
     return;
   }
-  const DiceLogMode before = game.dice.LogMode;
-  if (before == DiceLogMode::EachLine) game.dice.LogMode = DiceLogMode::HeldOpen;
   game.platform.BeginProgress("Dice Tester 3d6", "Rolling 3d6 ...");
   std::array<Bins, std::size(kSeries)> bins{};
   int rolled = 0;
   bool finished = true;
-  for (std::size_t i = 0; i < std::size(kSeries) && finished; ++i)
-    finished = RollSeries(game, kSeries[i], rolled, bins[i]);
+  {
+    const HeldDiceLog log(game);
+    for (std::size_t i = 0; i < std::size(kSeries) && finished; ++i) {
+      finished = RollSeries(game, kSeries[i], rolled, bins[i]);
+    }
+  }
   game.platform.EndProgress();
-  CloseLog(game.dice.LogFile);
-  game.dice.LogFile = -1;
-  game.dice.LogMode = before;
   if (!finished) return;
   for (std::size_t i = 0; i < std::size(kSeries); ++i) game.platform.ShowMessage(ResultText(kSeries[i], bins[i]));
 }

@@ -81,6 +81,13 @@ std::size_t NamedControl(const Form& form, std::size_t label) {
   return below < none && CanBeUsed(controls[below].Template.Kind) ? below : none;
 }
 
+std::size_t ControlInNextRow(const Form& form, std::size_t control, int rows) {
+  const auto& controls = form.Controls();
+  const std::size_t next = Vertical(form, control, rows);
+  if (next == controls.size() || !controls[next].Enabled) return controls.size();
+  return controls[next].Template.Kind == controls[control].Template.Kind ? next : controls.size();
+}
+
 std::string ControlName(const Form& form, std::size_t control) {
   const auto& controls = form.Controls();
   const std::size_t none = controls.size();
@@ -93,7 +100,8 @@ std::string ControlName(const Form& form, std::size_t control) {
     const bool isOfRow = kind == ControlKind::Result || (IsField(self) && IsField(kind));
     if (!(IsField(self) || self == ControlKind::Result) || !isOfRow) break;
   }
-  const std::size_t above = Vertical(form, control, -1);
+  std::size_t above = Vertical(form, control, -1);
+  while (above < none && controls[above].Template.Kind == self) above = Vertical(form, above, -1);  // a table's column
   if (above == none || !IsCaption(controls[above].Template.Kind)) return {};
   const std::size_t next = Neighbour(form, above, false);
   const bool namesAnother =

@@ -8,13 +8,17 @@
 
 namespace veld {
 
-/// What names a control to someone who can not see the page: the label to the left of it, or right above it; for a
-/// result also the button to the left. Without marks before letters; empty if nothing names it.
+/// What names a control to someone who can not see the page: the label to the left of it, or above it and others of its
+/// kind; for a result also the button to the left. Without marks before letters; empty if nothing names it.
 std::string ControlName(const Form& form, std::size_t control);
 
 /// The control that the label names: the first one after it in its row, or the one below it, that can be used. Its
 /// place in Form::Controls(), or the number of controls if there is none.
 std::size_t NamedControl(const Form& form, std::size_t label);
+
+/// The usable control of the same kind and column in the row above (-1) or below (1), where fields stand in a table.
+/// Its place in Form::Controls(), or the number of controls if there is none.
+std::size_t ControlInNextRow(const Form& form, std::size_t control, int rows);
 
 /// True for the kinds in which '&' stands before the letter that reaches the control; "&&" is a plain '&' there.
 bool HasMnemonic(ControlKind kind);

@@ -168,6 +168,7 @@ bool Form::Type(int id, std::string_view text) {
   if (!IsUsable(control)) return false;
   const ControlKind kind = control->Template.Kind;
   if (kind != ControlKind::Edit && kind != ControlKind::Number && kind != ControlKind::MultiLine) return false;
+  if (control->Template.IsReadOnly) return false;
   if (control->Template.Limit > 0) text = CutToBytes(text, static_cast<std::size_t>(control->Template.Limit));
   if (control->Text != text) {
     control->Text = std::string(text);
@@ -198,6 +199,11 @@ bool Form::PressDefault() {
     if (IsDefault(role) && Press(control.Template.Id)) return true;
   }
   return false;
+}
+
+bool Form::PressEnterAt(std::size_t control) {
+  if (control < controls_.size() && Press(controls_[control].Template.EnterPresses)) return true;
+  return PressDefault();
 }
 
 void Form::PressCloseBox() {

@@ -86,6 +86,7 @@ class Form {
   bool Mark(int id, bool checked);
   bool ChooseMenuItem(int id);
   bool PressDefault();
+  bool PressEnterAt(std::size_t control);  ///< the button of its field, else the default one
   void PressCloseBox();  ///< its Cancel button; a form without an enabled one closes
 
  private:

@@ -53,6 +53,8 @@ struct ControlTemplate {
   ButtonRole Role = ButtonRole::Plain;
   int Limit = 0;          ///< Edit, MultiLine: most bytes that can be typed; 0: no limit
   int Group = 0;          ///< Radio
+  int EnterPresses = 0;   ///< Edit, Number: the button that Enter presses here; 0: the default one
+  bool IsReadOnly = false;  ///< Edit: a long result in a box, to be read to its end; nothing can be typed in it
   bool Enabled = true;
   bool Visible = true;
 };

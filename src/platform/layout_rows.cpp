@@ -117,7 +117,8 @@ int LinesBefore(Page& page, int place, int above) {
   if (isUnderBoxes) return 1;
   if (!page.hasBlanks || RowHas(page, above, [](ControlKind kind) { return kind == ControlKind::Title; })) return 0;
   const bool endsDenseRows = !page.isRoomy && IsButtonRow(page, place) && !IsButtonRow(page, above);
-  return IsHeadingRow(page, place) || endsDenseRows ? 1 : 0;
+  const bool isUnderHeading = RowHas(page, above, [](ControlKind kind) { return kind == ControlKind::Heading; });
+  return (IsHeadingRow(page, place) && !isUnderHeading) || endsDenseRows ? 1 : 0;
 }
 
 /// Gives each row its lines. Lists and texts want no more than `cap`. Returns the lines of the whole page.

@@ -64,6 +64,9 @@ class Platform {
   virtual bool ShowProgress(int percent) = 0;
   virtual void EndProgress() = 0;
 
+  /// Gives a text to the clipboard. Returns false where there is none.
+  virtual bool CopyText(std::string_view /*text*/) { return false; }
+
   /// The clock, in seconds since 1970.
   virtual std::int64_t Now() const;
 

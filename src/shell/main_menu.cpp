@@ -6,6 +6,9 @@
 #include "generation/save_by_extension.h"
 #include "generation/sequencer.h"
 #include "platform/platform.h"
+#include "referee/critical_hits.h"
+#include "referee/gm_dice_roller.h"
+#include "referee/honor_track.h"
 #include "shell/about.h"
 #include "shell/options_dialog.h"
 #include "shell/recover_dialog.h"
@@ -59,8 +62,9 @@ std::vector<MenuItem> MainMenu() {
                  later(kCustomItems, "&Custom Item Editor"),
                  {.Id = kAbout, .Text = "&About VELD"}}},
       {.Text = "&GM",
-       .Items = {later(kDiceRoller, "&Dice Roller"), later(kHonorTracking, "&Honor Tracking"),
-                 later(kCriticalHits, "&Critical hits")}},
+       .Items = {{.Id = kDiceRoller, .Text = "&Dice Roller"},
+                 {.Id = kHonorTracking, .Text = "&Honor Tracking"},
+                 {.Id = kCriticalHits, .Text = "&Critical hits"}}},
   };
 }
 
@@ -71,9 +75,12 @@ void RunMainCommand(Game& game, int id) {
     case kLoad: return Load(game);
     case kRecover: return RecoverCharacter(game);
     case kExit: return game.platform.CloseMainWindow();
+    case kDiceRoller: return RunGmDiceRoller(game);
     case kDiceTester: return RunDiceTester(game);
     case kOptions: return RunOptions(game);
     case kAbout: return RunAbout(game);
+    case kHonorTracking: return RunHonorTracking(game);
+    case kCriticalHits: return RunCriticalHits(game);
     default: return;
   }
 }

@@ -14,12 +14,18 @@ constexpr int kOk = 1;
 constexpr int kCancel = 2;
 
 constexpr ControlTemplate kRecoverControls[] = {
-    LabelAt(0, 0, "&Characters that were in memory, the latest first"),
-    ListAt(1, 0, kCopies, 60, 2 * kRecoveryCopies),
+    LabelAt(0, 0, "&Characters and parties that were in memory, the latest first"),
+    ListAt(1, 0, kCopies, 60, 3 * kRecoveryCopies),
     ButtonAt(2, 0, kOk, "&Recover", ButtonRole::Default),
     ButtonAt(2, 0, kCancel, "Cancel", ButtonRole::Cancel),
 };
 constexpr FormTemplate kRecoverTemplate{"Recover", "Recover", kRecoverControls};
+
+std::string LineOf(const RecoveryCopy& copy) {
+  if (copy.Kind == CopyKind::Party) return Format("Party, %s: %s", copy.Time, copy.Name);
+  const char* const state = copy.Kind == CopyKind::Finished ? "" : ", unfinished";
+  return Format("%s, %s, %s%s", copy.Name, copy.ClassName, copy.Time, state);
+}
 
 }  // namespace
 
@@ -32,8 +38,7 @@ bool RunRecover(Game& game) {
   Form form(kRecoverTemplate);
   std::vector<std::string> lines;
   for (const RecoveryCopy& copy : copies) {
-    const char* const state = copy.IsFinished ? "" : ", unfinished";
-    lines.push_back(Format("%s, %s, %s%s", copy.Name, copy.ClassName, copy.Time, state));
+    lines.push_back(LineOf(copy));
   }
   form.SetItems(kCopies, std::move(lines));
   form.Select(kCopies, 0);
@@ -44,8 +49,13 @@ bool RunRecover(Game& game) {
   };
   game.platform.RunForm(form);
   if (chosen < 0) return false;
-  if (Recover(game, copies[static_cast<std::size_t>(chosen)])) return true;
-  game.platform.ShowMessage("This file can not be loaded.");
+  const RecoveryCopy& copy = copies[static_cast<std::size_t>(chosen)];
+  if (!Recover(game, copy)) {
+    game.platform.ShowMessage("This file can not be loaded.");
+    return false;
+  }
+  if (copy.Kind != CopyKind::Party) return true;
+  game.platform.ShowMessage("The party is in memory again. GM, Honor Tracking shows it.");
   return false;
 }
 

@@ -4,12 +4,14 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "rules/equipment_record.h"
 #include "rules/rule_switches.h"
 #include "rules/spell_record.h"
 #include "store/character_sheet.h"
 #include "store/generation_run.h"
+#include "store/party_file.h"
 
 namespace veld {
 
@@ -28,7 +30,16 @@ struct DiceState {
   std::string RollPurpose;      ///< what a player who types the dice is told they are for; may be empty
   std::int64_t DiceEntryValue = 0;
   DiceLogMode LogMode = DiceLogMode::EachLine;
-  int LogFile = -1;  ///< while held open
+  int LogFile = -1;             ///< while held open
+  std::string LogLines;         ///< gathered for it
+};
+
+/// What the referee's critical hit dialog holds while the program runs.
+struct CriticalHitNumbers {
+  int Roll = 0;          ///< d10,000 for the place
+  int BaseSeverity = 0;
+  int Severity = 0;
+  std::vector<std::string> LastResults;  ///< the newest first
 };
 
 /// All that the program remembers. Big: made once on the heap by MakeGame and only ever passed by reference.
@@ -43,10 +54,13 @@ struct Game {
   std::array<EquipmentRecord, kEquipmentRows> EquipmentTable{};
   std::array<EquipmentRecord, kEquipmentRows> CustomEquipmentTable{};
   std::array<SpellRecord, kSpellRows> SpellTable{};
-  std::string TextScratch;          ///< the name that a purchase or grant is for
-  std::shared_ptr<Form> stepThree;  ///< the open StepThree window
-  bool isFinished = false;          ///< the character has come to the end of its generation, from a file or into one
-  std::string recoveryCopy;         ///< which recovery copy is that of the character; empty: none yet
+  std::string TextScratch;            ///< the name that a purchase or grant is for
+  std::shared_ptr<Form> stepThree;    ///< the open StepThree window
+  bool isFinished = false;            ///< the character has come to the end of its generation, from a file or into one
+  std::string recoveryCopy;           ///< which recovery copy is that of the character; empty: none yet
+  Party party;                        ///< the referee's; no character's, and stays while characters come and go
+  std::string partyCopy;              ///< which recovery copy is that of the party; empty: none yet
+  CriticalHitNumbers criticalHits;
 
   bool IsOn(std::size_t ruleSwitch) const { return ruleSwitch < kRuleSwitches && RuleSwitches[ruleSwitch] == 1; }
 };

@@ -8,6 +8,7 @@
 #include <ctime>
 #include <filesystem>
 #include <functional>
+#include <span>
 #include <tuple>
 
 #include "platform/platform.h"
@@ -20,8 +21,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::string_view kFinished = "-finished.vlf";
-constexpr std::string_view kUnfinished = "-unfinished.vlf";
+constexpr std::array<std::string_view, kCopyKinds> kEndings = {"-unfinished.vlf", "-finished.vlf", "-party.vlp"};
 constexpr int kMostBegunInASecond = 1000;
 constexpr int kOldCopies = 5;  // of earlier versions
 
@@ -29,12 +29,20 @@ constexpr int kOldCopies = 5;  // of earlier versions
 struct CopyFile {
   std::string Path;
   std::string Stem;
-  bool IsFinished = false;
+  CopyKind Kind = CopyKind::Unfinished;
   struct timespec WrittenAt {};
 };
 
-std::string PathOf(std::string_view stem, bool isFinished) {
-  return Format("%s/%s%s", kRecoveryFolder, stem, isFinished ? kFinished : kUnfinished);
+std::size_t Index(CopyKind kind) {
+  return static_cast<std::size_t>(kind);
+}
+
+std::string PathOf(std::string_view stem, CopyKind kind) {
+  return Format("%s/%s%s", kRecoveryFolder, stem, kEndings[Index(kind)]);
+}
+
+CopyKind CharacterKind(const Game& game) {
+  return game.isFinished ? CopyKind::Finished : CopyKind::Unfinished;
 }
 
 bool IsDigit(char c) {
@@ -79,10 +87,10 @@ std::vector<CopyFile> CopyFiles() {
   std::error_code error;
   for (fs::directory_iterator entry(kRecoveryFolder, error), end; !error && entry != end; entry.increment(error)) {
     const std::string name = entry->path().filename().string();
-    for (const bool isFinished : {false, true}) {
-      const std::string_view kind = isFinished ? kFinished : kUnfinished;
-      if (!name.ends_with(kind)) continue;
-      CopyFile copy{entry->path().string(), name.substr(0, name.size() - kind.size()), isFinished};
+    for (std::size_t kind = 0; kind < kCopyKinds; ++kind) {
+      if (!name.ends_with(kEndings[kind])) continue;
+      CopyFile copy{entry->path().string(), name.substr(0, name.size() - kEndings[kind].size()),
+                    static_cast<CopyKind>(kind)};
       if (IsStem(copy.Stem) && IsCopyFile(copy)) files.push_back(std::move(copy));
     }
   }
@@ -103,18 +111,23 @@ std::string NewStem(const Game& game) {
                                    utc.tm_hour, utc.tm_min, utc.tm_sec, getpid());
   for (int serial = 1; serial < kMostBegunInASecond; ++serial) {
     const std::string stem = Format("%s-%i", begun, serial);
-    std::error_code error;
-    if (!fs::exists(PathOf(stem, false), error) && !fs::exists(PathOf(stem, true), error)) return stem;
+    const auto isFree = [&](std::string_view ending) {
+      std::error_code error;
+      return !fs::exists(Format("%s/%s%s", kRecoveryFolder, stem, ending), error);
+    };
+    if (std::ranges::all_of(kEndings, isFree)) return stem;
   }
   return {};
 }
 
-/// Of each kind the newest copies stay, that of the character in memory before all others.
+/// Of each kind the newest copies stay, those of the character and the party in memory before all others.
 void DropOldCopies(const Game& game) {
-  std::array<int, 2> kept{};
-  kept[game.isFinished ? 1 : 0] = 1;
+  std::array<int, kCopyKinds> kept{};
+  if (!game.recoveryCopy.empty()) kept[Index(CharacterKind(game))] = 1;
+  if (!game.partyCopy.empty()) kept[Index(CopyKind::Party)] = 1;
   for (const CopyFile& copy : CopyFiles()) {
-    if (copy.Stem == game.recoveryCopy || ++kept[copy.IsFinished ? 1 : 0] <= kRecoveryCopies) continue;
+    const bool isInMemory = copy.Stem == (copy.Kind == CopyKind::Party ? game.partyCopy : game.recoveryCopy);
+    if (isInMemory || ++kept[Index(copy.Kind)] <= kRecoveryCopies) continue;
     std::error_code ignored;
     if (!RunsElsewhere(WriterOf(copy.Stem))) fs::remove(copy.Path, ignored);
   }
@@ -127,19 +140,20 @@ std::string LocalMinute(std::time_t time) {
                 local.tm_min);
 }
 
-/// Makes the copy that the character in memory was recovered from its own, so that who looks through the copies pushes
-/// none out: under a name of this process, and only while it is no other's and holds nothing else.
-void GoOnWithCopy(Game& game, const std::string& path) {
+/// Takes over the copy that the character or party in memory was recovered from, so that who looks through the copies
+/// pushes none out: under a name of this process, and only while it is no other's and holds nothing but `expected`. Its
+/// new stem, or none.
+std::string GoOnWithCopy(const Game& game, const std::string& path, std::string_view expected) {
   const auto files = CopyFiles();
   const auto file = std::ranges::find(files, path, &CopyFile::Path);
-  if (file == files.end() || RunsElsewhere(WriterOf(file->Stem))) return;
+  if (file == files.end() || RunsElsewhere(WriterOf(file->Stem))) return {};
   std::string bytes;
   ReadWholeFile(path, bytes, kLargestCharacterBytes);
   const std::string stem = NewStem(game);
-  if (stem.empty() || bytes != EncodeCharacter(game)) return;
+  if (stem.empty() || bytes != expected) return {};
   std::error_code error;
-  fs::rename(path, PathOf(stem, file->IsFinished), error);
-  if (!error) game.recoveryCopy = stem;
+  fs::rename(path, PathOf(stem, file->Kind), error);
+  return error ? std::string() : stem;
 }
 
 bool ReadDraft(const std::string& path, CharacterDraft& draft) {
@@ -148,45 +162,88 @@ bool ReadDraft(const std::string& path, CharacterDraft& draft) {
          DecodeCharacter(bytes, draft) == LoadResult::Loaded;
 }
 
+bool ReadParty(const std::string& path, Party& party) {
+  std::string bytes;
+  return ReadWholeFile(path, bytes, kPartyFileBytes) == FileRead::Done && DecodeParty(bytes, party);
+}
+
+/// "Ada, Bo": who is in a party.
+std::string MemberNames(const Party& party) {
+  std::string names;
+  for (const PartyMember& member : std::span(party.Rows).subspan(1)) {
+    if (!member.Name.Empty()) names += (names.empty() ? "" : ", ") + std::string(member.Name);
+  }
+  return names;
+}
+
+/// Writes a copy, which is begun if there is none yet, and drops what is too old.
+void KeepCopy(Game& game, CopyKind kind, std::string& ownStem, std::string_view bytes, SaveWay way) {
+  const std::string stem = ownStem.empty() ? NewStem(game) : ownStem;
+  if (bytes.empty() || stem.empty()) return;
+  std::error_code ignored;
+  fs::create_directory(kRecoveryFolder, ignored);
+  if (kind == CopyKind::Finished) {
+    fs::rename(PathOf(stem, CopyKind::Unfinished), PathOf(stem, kind), ignored);  // as which it was kept till now
+  }
+  if (!SaveWholeFile(PathOf(stem, kind), bytes, way)) return;
+  ownStem = stem;
+  DropOldCopies(game);
+}
+
+bool RecoverParty(Game& game, const RecoveryCopy& copy) {
+  Party party;
+  if (!ReadParty(copy.Path, party)) return false;
+  KeepPartyCopy(game);
+  game.party = party;
+  game.partyCopy = GoOnWithCopy(game, copy.Path, EncodeParty(party));
+  return true;
+}
+
 }  // namespace
 
 void KeepRecoveryCopy(Game& game, SaveWay way) {
   if (!IsBegun(game.sheet)) return;
-  const std::string bytes = EncodeCharacter(game);
-  const std::string stem = game.recoveryCopy.empty() ? NewStem(game) : game.recoveryCopy;
-  if (bytes.empty() || stem.empty()) return;
-  std::error_code ignored;
-  fs::create_directory(kRecoveryFolder, ignored);
-  if (game.isFinished) fs::rename(PathOf(stem, false), PathOf(stem, true), ignored);  // as which it was kept till now
-  if (!SaveWholeFile(PathOf(stem, game.isFinished), bytes, way)) return;
-  game.recoveryCopy = stem;
-  DropOldCopies(game);
+  KeepCopy(game, CharacterKind(game), game.recoveryCopy, EncodeCharacter(game), way);
+}
+
+void KeepPartyCopy(Game& game, SaveWay way) {
+  if (game.party.Count > 0) KeepCopy(game, CopyKind::Party, game.partyCopy, EncodeParty(game.party), way);
 }
 
 std::vector<RecoveryCopy> RecoveryCopies() {
   std::vector<CopyFile> files = CopyFiles();
   for (int number = 1; number <= kOldCopies; ++number) {
-    CopyFile old{number == 1 ? "autosave.vlf" : Format("autosave%i.vlf", number), {}, true};
+    CopyFile old{number == 1 ? "autosave.vlf" : Format("autosave%i.vlf", number), {}, CopyKind::Finished};
     if (IsCopyFile(old)) files.push_back(std::move(old));
   }
   SortNewestFirst(files);
   std::vector<RecoveryCopy> copies;
   const auto draft = std::make_unique<CharacterDraft>();
+  Party party;
   for (const CopyFile& file : files) {
-    if (!ReadDraft(file.Path, *draft)) continue;
-    copies.push_back({file.Path, std::string(draft->sheet.CharacterName), std::string(draft->sheet.ClassName),
-                      LocalMinute(file.WrittenAt.tv_sec), file.IsFinished});
+    RecoveryCopy copy{file.Path, {}, {}, LocalMinute(file.WrittenAt.tv_sec), file.Kind};
+    if (file.Kind == CopyKind::Party) {
+      if (!ReadParty(file.Path, party)) continue;
+      copy.Name = MemberNames(party);
+    } else {
+      if (!ReadDraft(file.Path, *draft)) continue;
+      copy.Name = std::string(draft->sheet.CharacterName);
+      copy.ClassName = std::string(draft->sheet.ClassName);
+    }
+    copies.push_back(std::move(copy));
   }
   return copies;
 }
 
 bool Recover(Game& game, const RecoveryCopy& copy) {
+  if (copy.Kind == CopyKind::Party) return RecoverParty(game, copy);
   const auto draft = std::make_unique<CharacterDraft>();
   if (!ReadDraft(copy.Path, *draft)) return false;  // read before the character in memory may push it out
   KeepRecoveryCopy(game);
   TakeCharacter(game, *draft);
-  game.isFinished = copy.IsFinished;
-  GoOnWithCopy(game, copy.Path);
+  game.isFinished = copy.Kind == CopyKind::Finished;
+  const std::string stem = GoOnWithCopy(game, copy.Path, EncodeCharacter(game));
+  if (!stem.empty()) game.recoveryCopy = stem;
   return true;
 }
 

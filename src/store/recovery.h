@@ -9,12 +9,15 @@
 
 namespace veld {
 
-// Recovery copies: character files in a folder of the working directory. Each belongs to one character in memory and is
-// written again and again while that character stays there. Its name tells when it was begun, by which process, and
-// whether the character is finished: "20261121-140533-1234-1-finished.vlf".
+// Recovery copies: character and party files in a folder of the working directory. Each belongs to one character or
+// party in memory and is written again and again while that stays there. Its name tells when it was begun, by which
+// process, and what it is: "20261121-140533-1234-1-finished.vlf".
 
 inline constexpr char kRecoveryFolder[] = "recovery";
-/// How many finished characters are kept, and how many unfinished ones beside them.
+/// What a copy is of: a character on its way, one that is made, a referee's party.
+enum class CopyKind { Unfinished, Finished, Party };
+inline constexpr std::size_t kCopyKinds = 3;
+/// How many copies of each kind are kept.
 inline constexpr int kRecoveryCopies = 5;
 
 /// Writes the character in memory over its recovery copy, silently. Once that is done the oldest copies beyond five of
@@ -22,18 +25,22 @@ inline constexpr int kRecoveryCopies = 5;
 /// the flush to disk: a copy guards against the program's end.
 void KeepRecoveryCopy(Game& game, SaveWay way = {.Flush = false});
 
+/// The same for the party in memory. One without a member is not kept.
+void KeepPartyCopy(Game& game, SaveWay way = {.Flush = false});
+
 struct RecoveryCopy {
   std::string Path;
-  std::string Name;
-  std::string ClassName;
-  std::string Time;  ///< "2026-11-21 14:05", of the desktop's time zone
-  bool IsFinished = false;
+  std::string Name;       ///< of a party those of its members
+  std::string ClassName;  ///< of a character
+  std::string Time;       ///< "2026-11-21 14:05", of the desktop's time zone
+  CopyKind Kind = CopyKind::Unfinished;
 };
 
 /// The copies that can be loaded, newest first; with them the autosave.vlf to autosave5.vlf of earlier versions.
 std::vector<RecoveryCopy> RecoveryCopies();
 
-/// Makes a copy the character in memory; the one that was there is kept as a copy first. False if it can't be read.
+/// Makes a copy the character, or the party, in memory; the one that was there is kept as a copy first. False if it
+/// can't be read.
 bool Recover(Game& game, const RecoveryCopy& copy);
 
 }  // namespace veld

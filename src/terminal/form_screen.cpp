@@ -349,14 +349,18 @@ std::string FormScreen::KeysLine() const {
   if (kind == ControlKind::Text) add("Up/Down scroll");
   if (page_.Page.Height > view_.Height && kind != ControlKind::List) add("PgUp/PgDn scroll");
   add("Tab  Alt+letter");
+  const int ofField = isControl ? At(focus_).Template.EnterPresses : 0;
+  std::string enterInField;
   std::string enter;
   std::string escape = "close";
   for (const Control& control : form_.Controls()) {
     if (!control.Enabled || !control.Visible || control.Template.Kind != ControlKind::Button) continue;
     if (enter.empty() && IsDefault(control.Template.Role)) enter = WithoutMnemonic(control.Text);
+    if (ofField != 0 && control.Template.Id == ofField) enterInField = WithoutMnemonic(control.Text);
     const ButtonRole role = control.Template.Role;
     if (IsCancel(role)) escape = WithoutMnemonic(control.Text);
   }
+  if (!enterInField.empty()) enter = enterInField;
   if (kind == ControlKind::MultiLine) enter = "new line";
   if (kind == ControlKind::Button) enter = isControl ? WithoutMnemonic(At(focus_).Text) : "Menu";
   if (!enter.empty()) add("Enter " + enter);
@@ -395,13 +399,20 @@ void FormScreen::MoveFocus(int step) {
   }
 }
 
+/// Up and Down keep to their column where fields stand in a table.
+void FormScreen::MoveFocusDown(int rows) {
+  const std::size_t next = focus_ < Corner() ? ControlInNextRow(form_, focus_, rows) : Corner();
+  if (next < Corner() && CanFocus(next)) return TakeFocus(next);
+  MoveFocus(rows);
+}
+
 void FormScreen::TakeFocus(std::size_t control) {
   focus_ = control;
   search_.clear();
   if (control >= Corner() || !IsLine(At(control).Template.Kind)) return;
   View& view = views_[control];
-  view.IsChosen = true;  // a player just types
-  view.Cursor = At(control).Text.size();
+  view.IsChosen = !At(control).Template.IsReadOnly;  // a player just types
+  view.Cursor = view.IsChosen ? At(control).Text.size() : 0;
 }
 
 void FormScreen::OnFocusWanted(std::size_t control) {
@@ -431,11 +442,13 @@ void FormScreen::HandleKey(const Key& key) {
       if (!onTab || !onTab()) return MoveFocus(1);
       if (focus_ < Corner()) views_[focus_] = {.Cursor = At(focus_).Text.size()};  // behind what was completed
       return;
-    case KeyKind::BackTab:
     case KeyKind::Up:
+      return MoveFocusDown(-1);
+    case KeyKind::Down:
+      return MoveFocusDown(1);
+    case KeyKind::BackTab:
     case KeyKind::Left:
       return MoveFocus(-1);
-    case KeyKind::Down:
     case KeyKind::Right:
       return MoveFocus(1);
     case KeyKind::PageUp:
@@ -497,7 +510,8 @@ bool FormScreen::HandleFieldKey(const Key& key) {
   const FieldKey done = control.Kind == ControlKind::MultiLine ? ApplyMultiLineKey(typed, key, control.Limit, width)
                                                                : ApplyFieldKey(typed, key, control.Limit);
   if (done == FieldKey::NotMine) return false;
-  if (done == FieldKey::Refused) screen_.Beep();
+  if (done == FieldKey::Refused || (control.IsReadOnly && done == FieldKey::Typed)) screen_.Beep();
+  if (control.IsReadOnly && done == FieldKey::Typed) return true;
   view.Cursor = typed.Cursor;
   view.IsChosen = typed.IsChosen;
   if (done == FieldKey::Typed) form_.Type(control.Id, typed.Text);
@@ -663,7 +677,7 @@ void FormScreen::PressEnter() {
   if (focus_ == Corner()) return OpenPageMenu();
   if (At(focus_).Template.Kind == ControlKind::Button && At(focus_).Enabled) {
     form_.Press(At(focus_).Template.Id);
-  } else if (!form_.PressDefault()) {
+  } else if (!form_.PressEnterAt(focus_)) {
     screen_.Beep();
   }
 }

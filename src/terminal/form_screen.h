@@ -69,6 +69,7 @@ class FormScreen : public Layer, private FormObserver {
   bool CanFocus(std::size_t control) const;
   void KeepFocus();
   void MoveFocus(int step);
+  void MoveFocusDown(int rows);
   void TakeFocus(std::size_t control);
 
   // Keys.

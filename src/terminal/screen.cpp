@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdio>
 #include <cstdlib>
 
 #include "platform/control_names.h"
@@ -91,6 +92,20 @@ void Dip(Ink ink, bool isUnderlined = false) {
   const attr_t line = isUnderlined ? A_UNDERLINE : A_NORMAL;
   attr_set((hasColours ? look.Colour : look.Plain) | line, hasColours ? static_cast<short>(place + 1) : short{0},
            nullptr);
+}
+
+/// Bytes as terminals take them in their commands: three in four letters.
+std::string Base64(std::string_view bytes) {
+  constexpr char kLetters[] = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+  std::string letters;
+  letters.reserve((bytes.size() + 2) / 3 * 4);
+  for (std::size_t at = 0; at < bytes.size(); at += 3) {
+    const std::size_t held = std::min<std::size_t>(bytes.size() - at, 3);
+    unsigned three = 0;
+    for (std::size_t i = 0; i < 3; ++i) three = three << 8 | (i < held ? static_cast<unsigned char>(bytes[at + i]) : 0U);
+    for (std::size_t i = 0; i < 4; ++i) letters += i <= held ? kLetters[three >> (18 - 6 * i) & 63] : '=';
+  }
+  return letters;
 }
 
 // --- Keys ----------------------------------------------------------------------------------------------------------
@@ -349,6 +364,13 @@ void Screen::ShowKeys(std::string_view keys) {
 
 void Screen::Beep() {
   if (!IsLost()) beep();
+}
+
+bool Screen::SendToClipboard(std::string_view text) {
+  if (IsLost()) return false;
+  const std::string sequence = "\033]52;c;" + Base64(text) + "\a";
+  std::fwrite(sequence.data(), 1, sequence.size(), stdout);
+  return std::fflush(stdout) == 0;
 }
 
 }  // namespace veld

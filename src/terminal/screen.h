@@ -97,6 +97,9 @@ class Screen {
   void ShowKeys(std::string_view keys);  ///< in the last line
   void Beep();
 
+  /// Asks the terminal to put a text on its clipboard; whether it does so it does not tell. False if it is lost.
+  bool SendToClipboard(std::string_view text);
+
  private:
   bool WaitForInput(int milliseconds);
   Key TakeKey();

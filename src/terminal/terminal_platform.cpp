@@ -81,6 +81,10 @@ TerminalPlatform::~TerminalPlatform() {
   screen_.Remove(*desk_);
 }
 
+bool TerminalPlatform::CopyText(std::string_view text) {
+  return screen_.SendToClipboard(text);
+}
+
 // --- Forms ---------------------------------------------------------------------------------------------------------
 
 void TerminalPlatform::RunForm(Form& form) {

@@ -25,6 +25,7 @@ class TerminalPlatform : public Platform {
   void BeginProgress(std::string_view caption, std::string_view text) override;
   bool ShowProgress(int percent) override;
   void EndProgress() override;
+  bool CopyText(std::string_view text) override;
 
  protected:
   Answer DoAskYesNo(const std::string& caption, const std::string& text) override;

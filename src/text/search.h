@@ -21,6 +21,13 @@ inline bool EqualsIgnoringCase(std::string_view a, std::string_view b) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end(), IsSameLetter);
 }
 
+/// True if `a` comes before `b` in a list that is sorted without regard to the case of the letters A to Z.
+inline bool IsBeforeIgnoringCase(std::string_view a, std::string_view b) {
+  const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
+  return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
+                                      [&](char x, char y) { return lower(x) < lower(y); });
+}
+
 /// True if `text` ends in `end`, without regard to the case of the letters A to Z.
 inline bool EndsIgnoringCase(std::string_view text, std::string_view end) {
   return text.size() >= end.size() && EqualsIgnoringCase(text.substr(text.size() - end.size()), end);

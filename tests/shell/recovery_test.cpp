@@ -56,7 +56,7 @@ TEST_F(RecoveryTest, EachCharacterHasOneCopyAndTheLastFiveOfEachKindStay) {
   const RecoveryCopy last = RecoveryCopies().front();
   EXPECT_EQ(last.ClassName, "Fighter");
   EXPECT_EQ(last.Path, Format("recovery/19700101-000008-%i-1-finished.vlf", getpid()));
-  EXPECT_TRUE(last.Time.starts_with("20") && last.IsFinished);
+  EXPECT_TRUE(last.Time.starts_with("20") && last.Kind == CopyKind::Finished);
   for (int number = 1; number <= 6; ++number) {
     Begin(Format("f%i", number), false);
     KeepRecoveryCopy(*game);

@@ -15,7 +15,9 @@
 #include "shell/options_dialog.h"
 #include "shell/start_up.h"
 #include "shell/veld.h"
+#include "store/character_file.h"
 #include "store/side_files.h"
+#include "support/random_player.h"
 #include "support/scripted_platform.h"
 #include "text/format.h"
 #include "text/search.h"
@@ -138,6 +140,23 @@ TEST_F(ShellTest, MenuCommandsNameTheCharacterInMemory) {
   RunMainCommand(*game, kAbout);
   RunMainCommand(*game, kExit);
   EXPECT_TRUE(platform.mainWindowClosed);
+}
+
+TEST_F(ShellTest, TheRefereesPagesLeaveTheCharacterInTheMakingAlone) {
+  testing::RandomPlayer player(7);
+  const auto referee = MakeGame(player);
+  referee->dice.LogMode = DiceLogMode::Off;
+  referee->RuleSwitches[kRollYourOwnDice] = 0;
+  RunMainCommand(*referee, kNewCharacter);
+  const std::string before = EncodeCharacter(*referee);
+  for (int visit = 0; visit < 40; ++visit) {
+    RunMainCommand(*referee, visit % 2 == 0 ? kHonorTracking : kCriticalHits);
+    ASSERT_EQ(player.stuckForm, "");
+    ASSERT_TRUE(referee->stepThree && !referee->stepThree->IsClosed());
+  }
+  EXPECT_EQ(EncodeCharacter(*referee), before);
+  EXPECT_GT(referee->party.Count, 0);
+  EXPECT_EQ(referee->criticalHits.LastResults.size(), 10U);
 }
 
 TEST_F(ShellTest, LeftOverPointsBecomeGoldFractionsIncluded) {

@@ -37,6 +37,7 @@ class ScriptedPlatform : public Platform {
   std::shared_ptr<Form> window;  ///< the window shown last by ShowWindow
   bool mainWindowClosed = false;
   std::vector<int> progress;
+  std::string clipboard;
   bool Showed(std::string_view part) const;  ///< a message held this text
   std::size_t StepsLeft() const { return script_.size(); }
 
@@ -48,6 +49,10 @@ class ScriptedPlatform : public Platform {
   void BeginProgress(std::string_view caption, std::string_view text) override;
   bool ShowProgress(int percent) override;
   void EndProgress() override {}
+  bool CopyText(std::string_view text) override {
+    clipboard = std::string(text);
+    return true;
+  }
   std::int64_t Now() const override { return now; }
 
  protected:

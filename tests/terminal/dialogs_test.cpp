@@ -9,7 +9,11 @@
 
 #include "dice/dice.h"
 #include "generation/sequencer.h"
+#include "platform/ask_name.h"
 #include "pty_program.h"
+#include "referee/critical_hits.h"
+#include "referee/gm_dice_roller.h"
+#include "referee/honor_track.h"
 #include "referee/training.h"
 #include "shell/about.h"
 #include "shell/options_dialog.h"
@@ -28,7 +32,6 @@
 #include "steps/quirks/cherry_pick.h"
 #include "steps/quirks/free_quirk.h"
 #include "steps/quirks/quirks_and_flaws.h"
-#include "steps/race/get_name.h"
 #include "steps/race/step_three.h"
 #include "steps/skills/pick_dialogs.h"
 #include "steps/skills/skill_setup.h"
@@ -95,7 +98,7 @@ const Dialog kDialogs[] = {
        PickOne(game, PickPage::FreeWeapon, {"one", "two"});
      }},
     {"Instrument", PickBardInstrument},
-    {"Choose a name", [](Game& game) { AskName(game, "A name"); }},
+    {"Choose a name", [](Game& game) { AskName(game.platform, "A name"); }},
     {"Spell Selection",
      [](Game& game) {
        game.run.SpellListIndex = 3;
@@ -117,6 +120,7 @@ const Dialog kDialogs[] = {
     {"Step 19", RunEquip},
     {"Equipment", RunEditEquip},
     {"RFC - Training Tables", RunTraining, true},
+    {"GM's Dice Roller", RunGmDiceRoller},
     {"VELD Options",
      [](Game& game) {
        SaveOptions(game);
@@ -128,6 +132,8 @@ const Dialog kDialogs[] = {
        RunRecover(game);
      }},
     {"About VELD", RunAbout, true},
+    {"GM - Honor Tracking System", RunHonorTracking},
+    {"Critical Hits", RunCriticalHits},
 };
 
 /// A character that has been through a generation, so that every dialog has something to show.

@@ -1,8 +1,8 @@
 #include "steps/race/race_choice.h"
 
 #include "dice/dice.h"
+#include "platform/ask_name.h"
 #include "rules/race_table.h"
-#include "steps/race/get_name.h"
 #include "store/sheet_accessors.h"
 #include "text/numbers.h"
 #include "text/search.h"
@@ -144,7 +144,7 @@ void TakeNativeLanguage(Game& game, const std::string& language) {
   }
   std::string name = language;
   if (EqualsIgnoringCase(language, "Human Dialect")) {
-    const std::string dialect = AskName(game, "Choose the name of the human dialect");
+    const std::string dialect = AskName(game.platform, "Choose the name of the human dialect");
     name = dialect.empty() ? "Human Dialect" : "Human Dialect: " + dialect;
   }
   NativeLanguageName(sheet) = "Language, Modern: " + name;

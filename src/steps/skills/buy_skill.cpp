@@ -4,7 +4,7 @@
 #include "dice/dice.h"
 #include "platform/platform.h"
 #include "rules/skill_prices.h"
-#include "steps/race/get_name.h"
+#include "platform/ask_name.h"
 #include "steps/skills/skill_buyer.h"
 #include "steps/skills/skill_suites.h"
 #include "steps/skills/skill_target.h"
@@ -218,7 +218,7 @@ void RaiseMastery(Game& game, const SkillTarget& target) {
 
 /// Asks for a new member's name and gives it a slot. Returns false if the player names none.
 bool TakeNewSlot(Game& game, SkillTarget& target) {
-  const std::string answer = AskName(game, Format("Choose the name of the Item for your %s Skill.", NameOf(target)));
+  const std::string answer = AskName(game.platform, Format("Choose the name of the Item for your %s Skill.", NameOf(target)));
   const std::string_view item = TrimRight(answer);
   if (item.empty()) return false;
   target.Slot = FreeMemberSlot(game.sheet, target.Row);

@@ -6,12 +6,12 @@
 #include <vector>
 
 #include "dice/dice.h"
+#include "platform/ask_name.h"
 #include "rules/proficiency_table.h"
 #include "rules/quirk_table.h"
 #include "rules/skill_table.h"
 #include "rules/talent_table.h"
 #include "steps/quirks/quirks_and_flaws.h"
-#include "steps/race/get_name.h"
 #include "steps/skills/buy_skill.h"
 #include "steps/skills/pick_dialogs.h"
 #include "steps/skills/pirate_skills.h"
@@ -295,7 +295,7 @@ void ChangeTalentCount(Game& game, const Grant& grant) {
 }
 
 void GiveNamedAttackBonus(Game& game) {
-  const std::string weapon = AskName(game, "Choose the name of the Weapon for your Attack Bonus Talent.");
+  const std::string weapon = AskName(game.platform, "Choose the name of the Weapon for your Attack Bonus Talent.");
   if (!TrimRight(weapon).empty()) GrantTalentItem(game, FindTalentFamilyRow(kAttackBonus), weapon);
 }
 

@@ -7,7 +7,7 @@
 #include "rules/named_rows.h"
 #include "rules/talent_prices.h"
 #include "rules/talent_table.h"
-#include "steps/race/get_name.h"
+#include "platform/ask_name.h"
 #include "steps/skills/skill_buyer.h"
 #include "text/format.h"
 #include "text/numbers.h"
@@ -86,7 +86,7 @@ int FreeItem(const Game& game, int family) {
 }
 
 bool TakeNewItem(Game& game, const TalentPlace& family) {
-  const std::string item = AskName(game, Format("Choose the name of the Item for your %s Talent.", NameOf(family)));
+  const std::string item = AskName(game.platform, Format("Choose the name of the Item for your %s Talent.", NameOf(family)));
   return !TrimRight(item).empty() && GrantTalentItem(game, family.Family, item);
 }
 
@@ -103,7 +103,7 @@ bool ChangeLucky(Game& game, const TalentPlace& place, int direction) {
     return true;
   }
   const std::string typed = AskName(
-      game,
+      game.platform,
       Format("Choose the number of sides for the die for your %s Talent. Only enter a whole number.", NameOf(place)));
   if (TrimRight(typed).empty()) return false;
   sides = static_cast<int>(ReadEntry(typed));

@@ -1,4 +1,4 @@
-#include "steps/race/get_name.h"
+#include "platform/ask_name.h"
 
 #include "platform/form.h"
 #include "platform/platform.h"
@@ -19,16 +19,17 @@ constexpr FormTemplate kGetName{"GetName", "Choose a name", kGetNameControls};
 
 }  // namespace
 
-std::string AskName(Game& game, std::string_view prompt) {
+std::optional<std::string> AskText(Platform& platform, std::string_view prompt, std::string_view suggested) {
   Form form(kGetName);
   form.SetText(kPrompt, prompt);
-  std::string name;
+  form.SetText(kEntry, suggested);
+  std::optional<std::string> text;
   form.onCommand = [&](int id) {
-    if (id == kOk) name = form.Text(kEntry);
+    if (id == kOk) text = form.Text(kEntry);
     form.Close();
   };
-  game.platform.RunForm(form);
-  return name;
+  platform.RunForm(form);
+  return text;
 }
 
 }  // namespace veld
