@@ -52,9 +52,7 @@ consteval auto ChainControls(std::string_view title) {
   const auto add = [&](const ControlTemplate& control) { controls[next++] = control; };
   add(TitleAt(0, 0, title, 2));
   add(LabelAt(1, 0, "Table being rolled"));
-  add(ResultAt(1, 1, ChainControl::Table, kWidth - 10));
-  add(LabelAt(1, 1, "BP:"));
-  add(ResultAt(1, 1, ChainControl::BuildingPoints, 8));
+  add(ResultAt(1, 1, ChainControl::Table, kWidth));
   int row = kFirstRow;
   for (const ChainGroup& group : Groups) {
     for (int line = 0; line < group.LineCount; ++line, ++row) {  // both come with the line's text
@@ -67,6 +65,8 @@ consteval auto ChainControls(std::string_view title) {
       add(text);
     }
   }
+  add(LabelAt(row, 1, "BP:"));
+  add(ResultAt(row, 1, ChainControl::BuildingPoints, 8));
   add(LabelAt(row, 0, "&What this brought"));
   ControlTemplate list = ListAt(row + 1, 0, ChainControl::Brought, 0, 9);
   list.ColumnSpan = 2;

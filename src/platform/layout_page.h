@@ -9,8 +9,8 @@
 #include "platform/control_names.h"
 #include "platform/layout.h"
 
-// The page while it is worked out, for the parts of the lay-out alone: first the grid of places, then the widths across,
-// then the rows down.
+// The page while it is worked out, for the parts of the lay-out alone: first the grid of places, then the widths
+// across, then the rows down.
 
 namespace veld::layout {
 
@@ -62,6 +62,7 @@ struct Page {
   int firstLine = 0;                       ///< lines kept free for the menu's button above the first row
   bool isRoomy = true;
   bool hasBlanks = true;  ///< blank lines above headings and for row numbers left out
+  bool scrolls = false;   ///< it has more lines than there is room for, however short its lists are
 
   const Control& At(std::size_t control) const { return form.Controls()[control]; }
   ControlKind KindOf(std::size_t control) const { return At(control).Template.Kind; }

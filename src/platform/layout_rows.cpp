@@ -47,11 +47,18 @@ int WantedLines(const Page& page, std::size_t place) {
   }
 }
 
+/// Whether a control may be given less than it wants. On a page that scrolls in any case a text that is as high as its
+/// lines stays whole: it needs no second scroll bar.
+bool CanBeCapped(const Page& page, std::size_t place) {
+  const ControlTemplate& control = page.At(place).Template;
+  return Stretches(control.Kind) && !(page.scrolls && control.Kind == ControlKind::Text && control.Lines == 0);
+}
+
 int WantedLines(const Page& page, const Cell& cell, int cap) {
   int lines = 0;
   for (const std::size_t control : cell.Controls) {
     const int wanted = WantedLines(page, control);
-    lines = std::max(lines, Stretches(page.KindOf(control)) ? std::min(wanted, cap) : wanted);
+    lines = std::max(lines, CanBeCapped(page, control) ? std::min(wanted, cap) : wanted);
   }
   return lines;
 }
@@ -168,6 +175,7 @@ int FitRows(Page& page, int height) {
     page.firstLine = page.metrics.CornerWidth > 0 && !SharesCorner(page) ? CornerLines(page) : 0;
     return PlanRows(page, cap);
   };
+  page.scrolls = false;
   const auto fits = [&](int lines) { return HeightOfLines(page, lines) <= height; };
   int lines = plan(true, true, kNoCap);
   if (!fits(lines)) lines = plan(false, true, kNoCap);
@@ -180,6 +188,7 @@ int FitRows(Page& page, int height) {
     const int middle = enough + (tooMany - enough) / 2;
     (fits(plan(false, false, middle)) ? enough : tooMany) = middle;
   }
+  page.scrolls = !fits(plan(false, false, enough));
   return plan(false, false, enough);
 }
 

@@ -407,6 +407,11 @@ void AddTold(std::vector<SheetFact>& facts, std::string_view label, std::string_
   if (value.size() > 1) AddLine(facts, label, value);
 }
 
+/// Adds a text that says anything where there is room for more facts: the HTML sheet.
+void AddHtmlOnly(std::vector<SheetFact>& facts, std::string_view label, std::string_view value) {
+  if (value.size() > 1) facts.push_back({std::string(label), OneLine(value), {}, {}});
+}
+
 /// The heading of a calling, and the youth that led to it if there is one; the facts of the youth go to the result.
 std::vector<SheetFact>* AddCalling(SheetContent& content, std::string_view title, std::string_view youthTitle,
                                    std::size_t blanks, bool hasYouth) {
@@ -450,7 +455,10 @@ void AddMage(const Game& game, SheetContent& content) {
     AddLine(*facts, "Classroom Equipment", s.ClassroomEquipment);
     AddLine(*facts, "Graduating Rank", s.GraduatingRank);
     AddPackage(*facts, s);
-    if (s.PackageName == "Hermit") AddLine(*facts, "Hermit Taboo", s.HermitTaboo);
+    if (s.PackageName == "Hermit") {
+      AddLine(*facts, "Hermit Taboo", s.HermitTaboo);
+      AddHtmlOnly(*facts, "Hermit Field", s.HermitField);
+    }
   }
   AddSpells(game, content);
 }

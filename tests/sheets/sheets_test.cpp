@@ -6,6 +6,7 @@
 #include <filesystem>
 
 #include "rules/class_table.h"
+#include "rules/proficiency_table.h"
 #include "sheets/html_sheet.h"
 #include "sheets/sheet_content.h"
 #include "sheets/sheet_save.h"
@@ -185,10 +186,44 @@ TEST_F(SheetsTest, SectionsStandForThoseWhoHaveThem) {
   sheet.ClassLevels[17] = 2;
   EXPECT_FALSE(prints("Assassin Abilities"));
 
+  const auto longSword =
+      std::ranges::find(ProficiencyTable(), "Sword: Long", [](const auto& row) { return TrimRight(row.Name); });
+  sheet.ProficiencyLevels[static_cast<std::size_t>(longSword - ProficiencyTable().begin())] = kMasteryMark;
+  EXPECT_TRUE(prints("Sword: Long              | +2| +3   |"));
+
   // A bow of Mastery has no line among the missile weapons, but it is one of the proficiencies.
   sheet.ProficiencyLevels[8] = kMasteryMark;
   EXPECT_FALSE(prints("Bow: Short               |"));
   EXPECT_TRUE(prints("Bow: Short - Mastery \n"));
+}
+
+TEST_F(SheetsTest, EveryTextOfAYouthIsPrinted) {
+  ResetCharacter(*game);
+  CharacterSheet& sheet = game->sheet;
+  std::vector<std::string> texts;
+  const auto fill = [&](auto&... fields) { ((fields = texts.emplace_back(Format("text %i.", texts.size()))), ...); };
+  sheet.IsMageClass = sheet.UsesMageBackground = 1;
+  sheet.IsClericClass = sheet.UsesClericBackground = 1;
+  sheet.IsFighterClass = sheet.UsesFighterBackground = 1;
+  sheet.PackageName = "Hermit";
+  fill(sheet.SchoolLocation, sheet.SchoolType, sheet.MasterNurture, sheet.MasterEducation, sheet.GraduatingClassSize,
+       sheet.ClassroomEquipment, sheet.GraduatingRank, sheet.HermitTaboo);
+  fill(sheet.TheCall, sheet.EcclesiasticalTraining, sheet.SuperiorCompetency, sheet.SuperiorPersonality,
+       sheet.ReligiousAccoutrements, sheet.ResidencyLocation, sheet.ResidencyResults, sheet.EducationResults);
+  fill(sheet.TrainingCampType, sheet.BasicTrainingQuality, sheet.BasicTrainingResults, sheet.SpecialtyAssignment,
+       sheet.AdvancedTrainingQuality, sheet.HostilitiesState, sheet.OccupationAttitude, sheet.OccupationEvents,
+       sheet.GuerillaEvents);
+  for (auto& text : sheet.TrainingAccidents) fill(text);
+  for (auto& text : sheet.Wars) fill(text);
+  for (auto& text : sheet.NonCombatTourEvents) fill(text);
+  texts.pop_back();  // the last tour is scratch
+  for (const std::string& text : texts) {
+    EXPECT_TRUE(Contains(TextSheet(*game), ": " + text + " \n")) << text;
+    EXPECT_TRUE(Contains(HtmlSheet(*game), "<dd>" + text + "</dd>")) << text;
+  }
+  sheet.HermitField = "herbs";
+  EXPECT_TRUE(Contains(HtmlSheet(*game), "<dt>Hermit Field</dt><dd>herbs</dd>"));
+  EXPECT_FALSE(Contains(TextSheet(*game), "herbs")) << "its lay-out is fixed";
 }
 
 TEST_F(SheetsTest, WhatThePlayerTypedBreaksNoLayOut) {

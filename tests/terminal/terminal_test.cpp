@@ -89,7 +89,10 @@ class Player {
     // What Enter did not change, and a control that has had its share, is left for the next one.
     const std::string seen = Seen();
     const int shown = ++shown_[title];
-    if (shown > kEnough && program_.KeysLine().ends_with("Esc Close")) return program_.Press(kEscapeKey);
+    const std::string keys = program_.KeysLine();
+    const bool canBeLeft = keys.ends_with("Esc Close") || keys.ends_with("Esc No Package");
+    if (shown > kEnough && canBeLeft) return program_.Press(kEscapeKey);
+    if (program_.Shows("Almanac Tables?")) return program_.Press("n");  // a youth may end in death
     if (seenAt_[title] == seen || shown % kShare == 0) program_.Press(kTabKey);
     for (int i = 0; i < kMostTabs && IsWayOut(program_.EnterDoes()); ++i) program_.Press(kTabKey);
     seenAt_[title] = Seen();
