@@ -141,7 +141,8 @@ void PlayPrank(Game& game) {
 
 /// The roommate teaches the customs of the culture, and its language if there is room for one.
 void LiveWithForeigner(Game& game) {
-  const std::string culture = AskName(game.platform, "Enter the name of the Foreign Culture from which your roommate hails");
+  const std::string culture =
+      AskName(game.platform, "Enter the name of the Foreign Culture from which your roommate hails");
   if (TrimRight(culture).empty()) return;
   GiveMember(game, kCustoms, culture, RollCustoms(game));
   CharacterSheet& sheet = game.sheet;

@@ -208,7 +208,8 @@ void RunMageChain(ChainPage& page) {
   RollMoneyModifier(page, "5N", 0);
   sheet.UsesMageBackground = 1;
   // A Chintzy Mentor's limit holds whatever the results brought.
-  if (sheet.QuirkCounts[QuirkRow::ChintzyMentor] > 0) run.SpellListIndex = std::min(run.SpellListIndex, kChintzyCantrips);
+  if (sheet.QuirkCounts[QuirkRow::ChintzyMentor] > 0)
+    run.SpellListIndex = std::min(run.SpellListIndex, kChintzyCantrips);
 }
 
 }  // namespace

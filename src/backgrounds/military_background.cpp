@@ -9,6 +9,7 @@
 #include "dice/dice.h"
 #include "dice/keep_roll.h"
 #include "rules/military_tables.h"
+#include "rules/named_rows.h"
 #include "steps/skills/grants.h"
 #include "steps/skills/pick_dialogs.h"
 #include "text/format.h"
@@ -56,7 +57,6 @@ constexpr FormTemplate kWMABackground{"WMABackground", "Warmonger's Almanac", kW
 
 // --- Dice ----------------------------------------------------------------------------------------------------------
 
-constexpr std::size_t kHolyKnight = 66;
 constexpr int kPhobiaPercent = 25;
 constexpr int kCriticalHit = 20;  // of 1d20
 constexpr int kBurnPercent = 20;
@@ -140,7 +140,7 @@ bool CanHappen(const Game& game, Accident accident) {
     case Accident::HeatStroke:
       return game.run.HeatStrokeSuffered == 0;
     case Accident::Impaled:
-      return game.sheet.ClassLevels[kHolyKnight] == 0;
+      return game.sheet.ClassLevels[ClassRow::HolyKnight] == 0;
     case Accident::Trampled:
       return !HoldsQuirk(game, YouthQuirk::MulePhobia);
     case Accident::Shot:

@@ -10,6 +10,7 @@
 #include "dice/keep_roll.h"
 #include "platform/form.h"
 #include "platform/platform.h"
+#include "rules/named_rows.h"
 #include "rules/quirk_table.h"
 #include "rules/skill_table.h"
 #include "rules/spell_catalogue.h"
@@ -114,7 +115,6 @@ void RunFreePicks(Game& game, const FormTemplate& page, std::span<const std::str
 constexpr float kGrantBP = 100;
 constexpr int kRaised = 50;
 constexpr std::size_t kTabooBytes = 74;
-constexpr std::size_t kLargeHandwritingRow = 308;
 constexpr std::string_view kTabooTable = "Table 5A: Hermit Taboos";
 constexpr std::string_view kHermitWeapons[] = {"Club", "Staff Sling", "Blowgun", "Sewing Needle", "Quarterstaff"};
 
@@ -157,7 +157,7 @@ void LearnFindFamiliar(Game& game) {
   const int row = FindSpell(game.SpellTable, "Find Familiar");
   if (row < 0) return;
   const int pages = 1 + RollDice(game, 6, 1) - 1;
-  const bool writesLarge = game.sheet.QuirkCounts[kLargeHandwritingRow] > 0;
+  const bool writesLarge = game.sheet.QuirkCounts[QuirkRow::LargeHandwriting] > 0;
   game.sheet.SpellsKnown[static_cast<std::size_t>(row)] = writesLarge ? 2 * pages : pages;
 }
 

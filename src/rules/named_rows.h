@@ -26,6 +26,7 @@ inline constexpr int BountyHunter = 60;
 inline constexpr int Gladiator = 61;
 inline constexpr int Pirate = 62;  ///< of the Warmonger's Almanac
 inline constexpr int Swashbuckler = 65;
+inline constexpr int HolyKnight = 66;
 inline constexpr int Expounder = 74;
 inline constexpr int Droog = 77;
 inline constexpr int Peacenik = 86;
@@ -44,6 +45,7 @@ inline constexpr int LastSwindler = 122;
 }  // namespace ClassRow
 
 namespace QuirkRow {
+inline constexpr int HearingImpaired = 9;
 inline constexpr int LossOfEye = 14;
 inline constexpr int Baldness = 15;
 inline constexpr int MissingFinger = 17;
@@ -52,6 +54,7 @@ inline constexpr int OneArmLost = 35;
 inline constexpr int BothArmsLost = 36;
 inline constexpr int BothLegsLost = 37;
 inline constexpr int OneLegLost = 38;
+inline constexpr int Deaf = 40;
 inline constexpr int NoDepthPerception = 46;
 inline constexpr int NaggingConscience = 64;
 inline constexpr int QuellFrenzy = 76;

@@ -71,14 +71,6 @@ const RaceRecord* FilledRace(int row) {
   return IsBlank(race) ? nullptr : &race;
 }
 
-int FindRaceUpTo(int lastRow, std::string_view name, std::string_view gender) {
-  for (int row = 0; row <= lastRow; ++row) {
-    const RaceRecord& race = RaceTable()[static_cast<std::size_t>(row)];
-    if (EqualsIgnoringCase(race.Name, name) && EqualsIgnoringCase(race.Gender, gender)) return row;
-  }
-  return -1;
-}
-
 }  // namespace
 
 const std::array<RaceRecord, kRaceRows>& RaceTable() {
@@ -87,7 +79,11 @@ const std::array<RaceRecord, kRaceRows>& RaceTable() {
 }
 
 int FindRaceRow(std::string_view name, std::string_view gender) {
-  return FindRaceUpTo(kRacesFilled - 1, name, gender);
+  for (int row = 0; row < kRacesFilled; ++row) {
+    const RaceRecord& race = RaceTable()[static_cast<std::size_t>(row)];
+    if (EqualsIgnoringCase(race.Name, name) && EqualsIgnoringCase(race.Gender, gender)) return row;
+  }
+  return -1;
 }
 
 const RaceRecord* FindRace(std::string_view name) {
@@ -100,7 +96,8 @@ bool HasTrait(std::string_view race, RaceTrait trait) {
 }
 
 int FindSearchedRaceRow(std::string_view name, std::string_view gender) {
-  return FindRaceUpTo(kLastSearchedRace, name, gender);
+  const int row = FindRaceRow(name, gender);
+  return row == kUnsearchedRace ? -1 : row;
 }
 
 std::string RaceListText(int row) {

@@ -14,7 +14,7 @@ namespace veld {
 
 inline constexpr int kRaceRows = 50;
 inline constexpr int kRacesFilled = 38;       ///< two rows a race, the male first; the rows after them are blank
-inline constexpr int kLastSearchedRace = 36;  ///< see FindSearchedRaceRow
+inline constexpr int kUnsearchedRace = 37;  ///< see FindSearchedRaceRow
 
 /// The lowest and the highest whole score, both inclusive.
 struct AbilityRange {
@@ -95,8 +95,8 @@ const RaceRecord* FindRace(std::string_view name);
 /// True if there is a race of this name, ignoring case, and it has the trait.
 bool HasTrait(std::string_view race, RaceTrait trait);
 
-/// As FindRaceRow, for the rolls of age, height and weight and for movement. These searches end at row 36, so the
-/// female darkman of row 37 is never found (-1): a limit of the game's tables that is kept, not to be widened.
+/// As FindRaceRow, for the rolls of age, height and weight and for movement. These searches never find the female
+/// darkman of row 37 (-1): a limit of the game's tables that is kept, not to be widened.
 int FindSearchedRaceRow(std::string_view name, std::string_view gender);
 
 /// "Name, Gender" as the race list shows a row; empty for a row that is blank or outside the table.

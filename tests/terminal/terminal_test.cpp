@@ -9,7 +9,6 @@
 #include <fstream>
 #include <iostream>
 #include <map>
-#include <regex>
 #include <set>
 
 #include "pty_program.h"
@@ -51,11 +50,18 @@ class TerminalTest : public ::testing::Test {
   fs::path data_;
 };
 
+/// The middle of what the dice named on the screen ("3d6") can show; empty if it names none.
 std::string ThrowDice(const std::string& shown) {
-  const std::regex dice("([0-9]+)d([0-9]+)");
-  std::smatch found;
-  if (!std::regex_search(shown, found, dice)) return {};
-  return std::to_string(std::max(std::stoi(found[1]) * (std::stoi(found[2]) + 1) / 2, 1));
+  constexpr std::string_view kDigits = "0123456789";
+  for (std::size_t at = shown.find('d', 1); at != std::string::npos; at = shown.find('d', at + 1)) {
+    const std::size_t before = shown.find_last_not_of(kDigits, at - 1) + 1;
+    const std::size_t after = shown.find_first_not_of(kDigits, at + 1);
+    if (before == at || after == at + 1) continue;
+    const int count = std::stoi(shown.substr(before));
+    const int sides = std::stoi(shown.substr(at + 1));
+    return std::to_string(std::max(count * (sides + 1) / 2, 1));
+  }
+  return {};
 }
 
 /// Plays one generation as a person would who knows no more than what stands on the screen: takes the first race, does

@@ -4,6 +4,7 @@
 
 #include "platform/form.h"
 #include "platform/platform.h"
+#include "rules/named_rows.h"
 #include "rules/thief_tables.h"
 #include "text/format.h"
 
@@ -19,13 +20,6 @@ constexpr int kFirstTotal = 10;
 constexpr int kPointsText = 150;
 constexpr int kLimitText = 151;
 constexpr int kFirstEntry = 3000;
-
-constexpr int kThiefRow = 16;
-constexpr int kAssassinRow = 17;
-constexpr int kBardRow = 18;
-constexpr int kBountyHunterRow = 60;
-constexpr int kFirstSwindlerRow = 116;  ///< the thieves of the Swindler's Almanac
-constexpr int kLastSwindlerRow = 122;
 
 constexpr int kThiefLimit = 30;
 constexpr int kLowThiefLimit = 15;
@@ -140,10 +134,10 @@ void SumThiefAbilities(Game& game) {
 }
 
 Allotment AllotmentOf(int classRow) {
-  if (classRow == kThiefRow || classRow == kAssassinRow) return Allotment::Thief;
-  if (classRow >= kFirstSwindlerRow && classRow <= kLastSwindlerRow) return Allotment::Thief;
-  if (classRow == kBardRow) return Allotment::Bard;
-  return classRow == kBountyHunterRow ? Allotment::BountyHunter : Allotment::None;
+  if (classRow == ClassRow::Thief || classRow == ClassRow::Assassin) return Allotment::Thief;
+  if (classRow >= ClassRow::FirstSwindler && classRow <= ClassRow::LastSwindler) return Allotment::Thief;
+  if (classRow == ClassRow::Bard) return Allotment::Bard;
+  return classRow == ClassRow::BountyHunter ? Allotment::BountyHunter : Allotment::None;
 }
 
 std::span<const int> AllottedAbilities(Allotment allotment) {
@@ -161,7 +155,7 @@ std::span<const int> AllottedAbilities(Allotment allotment) {
 }
 
 std::size_t AllotmentSlot(const CharacterSheet& sheet, Allotment allotment, int classRow) {
-  const int plainThief = sheet.ClassLevels[kThiefRow];
+  const int plainThief = sheet.ClassLevels[ClassRow::Thief];
   const bool atThief = allotment == Allotment::Thief && plainThief > 0;
   const int level = atThief ? plainThief : sheet.ClassLevels[static_cast<std::size_t>(classRow)];
   return static_cast<std::size_t>(std::clamp(level, 0, kHighestLevel));

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "rules/class_table.h"
+#include "rules/named_rows.h"
 #include "rules/race_table.h"
 #include "rules/spell_catalogue.h"
 #include "steps/classes/class_levels.h"
@@ -12,14 +13,6 @@
 namespace veld {
 
 namespace {
-
-constexpr int kDruid = 2;
-constexpr int kFighter = 3;
-constexpr int kKnightErrant = 8;
-constexpr int kBattleMage = 13;
-constexpr int kIllusionist = 15;
-constexpr int kStandardIllusionist = 24;
-constexpr std::size_t kDwarfMageTalent = 70;
 
 enum class Group { None, Cleric, Fighter, Mage, Thief };
 
@@ -60,8 +53,8 @@ std::size_t Index(int number) {
 /// True if the text names the class of a row. Names that stand inside longer ones are told apart.
 bool NamesClass(std::string_view text, int classRow) {
   if (!Contains(text, ClassAt(classRow).Name)) return false;
-  if (classRow == kDruid) return !Contains(text, "Zealot");
-  if (classRow == kIllusionist) return !Contains(text, "Standard") && !Contains(text, "Double");
+  if (classRow == ClassRow::Druid) return !Contains(text, "Zealot");
+  if (classRow == ClassRow::Illusionist) return !Contains(text, "Standard") && !Contains(text, "Double");
   return true;
 }
 
@@ -88,23 +81,23 @@ void SetGroup(CharacterSheet& sheet, Group group) {
 void EnterClass(Game& game, const ChainRun& run, int classRow) {
   CharacterSheet& sheet = game.sheet;
   SetGroup(sheet, run.FirstTimeGroup);
-  if (classRow == kKnightErrant || (classRow == kFighter && sheet.ClassName == "Fighter")) {
+  if (classRow == ClassRow::KnightErrant || (classRow == ClassRow::Fighter && sheet.ClassName == "Fighter")) {
     sheet.FreeWeaponProficiencySlots = 1;
   }
   if (run.Spells >= 0) game.run.StartingSpells = run.Spells;
-  if (classRow == kBattleMage) {
+  if (classRow == ClassRow::BattleMage) {
     sheet.Wisdom.Whole = AddSaturated(sheet.Wisdom.Whole, -1);
-    if (HasTrait(sheet.RaceName, RaceTrait::TalentedBattleMage)) sheet.TalentCounts[kDwarfMageTalent] = 1;
+    if (HasTrait(sheet.RaceName, RaceTrait::TalentedBattleMage)) sheet.TalentCounts[TalentRow::TouchedByYurgain] = 1;
   }
 }
 
 /// A plain illusionist is a standard specialist: what row 15 holds moves there.
 void MoveIllusionist(CharacterSheet& sheet) {
   const auto move = [](auto& rows) {
-    rows[kStandardIllusionist] = rows[kIllusionist];
-    rows[kIllusionist] = {};
+    rows[ClassRow::StandardIllusionist] = rows[ClassRow::Illusionist];
+    rows[ClassRow::Illusionist] = {};
   };
-  if (sheet.ClassLevels[kIllusionist] <= 0 && !(sheet.ClassExperience[kIllusionist] > 0)) return;
+  if (sheet.ClassLevels[ClassRow::Illusionist] <= 0 && !(sheet.ClassExperience[ClassRow::Illusionist] > 0)) return;
   move(sheet.ClassLevels);
   move(sheet.ClassExperience);
   move(sheet.ClassProficiencySlots);
@@ -114,8 +107,8 @@ void MoveIllusionist(CharacterSheet& sheet) {
 
 NamedClass AdvanceNamedClass(Game& game, const ChainRun& run, int namedRow) {
   CharacterSheet& sheet = game.sheet;
-  const int classRow = namedRow == kIllusionist ? kStandardIllusionist : namedRow;
-  if (namedRow == kIllusionist) MoveIllusionist(sheet);
+  const int classRow = namedRow == ClassRow::Illusionist ? ClassRow::StandardIllusionist : namedRow;
+  if (namedRow == ClassRow::Illusionist) MoveIllusionist(sheet);
   const bool isNew = sheet.ClassLevels[Index(classRow)] == 0;
   AdvanceClassLevels(game, classRow);
   const int level = sheet.ClassLevels[Index(classRow)];

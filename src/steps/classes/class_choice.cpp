@@ -4,14 +4,15 @@
 #include "platform/platform.h"
 #include "rules/ability_effects.h"
 #include "rules/class_table.h"
+#include "rules/named_rows.h"
 #include "rules/race_table.h"
+#include "store/sheet_accessors.h"
 #include "text/format.h"
 
 namespace veld {
 
 namespace {
 
-constexpr int kBattleMageRow = 13;
 constexpr int kHighestSocialClass = 12;
 constexpr int kNotPreviewed = 9;  ///< the step from which on Charisma's change stands in Comeliness
 
@@ -45,7 +46,7 @@ Candidate CandidateOf(const Game& game) {
 /// The abilities as they count for one class: some races are shrewder as battle mages.
 std::array<float, kAbilityCount> AbilitiesFor(const Game& game, const Candidate& candidate, int classRow) {
   std::array<float, kAbilityCount> abilities = candidate.Abilities;
-  if (classRow == kBattleMageRow && HasTrait(game.sheet.RaceName, RaceTrait::ShrewdBattleMage)) {
+  if (classRow == ClassRow::BattleMage && HasTrait(game.sheet.RaceName, RaceTrait::ShrewdBattleMage)) {
     abilities[kIntelligence] += 1;
   }
   return abilities;
@@ -78,27 +79,9 @@ std::array<LockIn, 4> LockIns(const Game& game) {
 /// True if the race, or the race that a half-blood takes after, has the class.
 bool IsOpenToRace(const Game& game, int classRow) {
   const CharacterSheet& sheet = game.sheet;
-  int row = -1;
-  if (sheet.TalentDetailCounts[2][0] > 0) row = FindTakenAfterRow(sheet.TalentDetailNames[2][0]);
+  int row = FindTakenAfterRow(RaceTakenAfter(sheet));
   if (row < 0) row = FindRaceRow(sheet.RaceName, sheet.Gender);
   return row >= 0 && RaceTable()[Index(row)].ClassLevelLimits[Index(classRow)] != 0;
-}
-
-std::string_view BookOf(int ruleSwitch) {
-  switch (ruleSwitch) {
-    case kHexwrightsAlmanac:
-      return "The Hexwright's Almanac";
-    case kWarmongersAlmanac:
-      return "The Warmonger's Almanac";
-    case kSwindlersAlmanac:
-      return "The Swindler's Almanac";
-    case kDevoteesAlmanac:
-      return "The Devotee's Almanac";
-    case kBronzeMetropolis:
-      return "Bronze Metropolis";
-    default:
-      return "Its book";
-  }
 }
 
 void AddSentence(std::string& text, const std::string& sentence) {
@@ -189,7 +172,7 @@ std::string WhyClassIsMissing(const Game& game, int classRow) {
     AddSentence(reasons, Format("Needs social class %i, yours is %i.", record.MinSocialClass, candidate.SocialClass));
   }
   if (!game.IsOn(Index(record.RuleSwitch))) {
-    AddSentence(reasons, Format("%s is switched off.", BookOf(record.RuleSwitch)));
+    AddSentence(reasons, Format("%s is switched off.", BookOfSwitch(record.RuleSwitch)));
   }
   return reasons;
 }

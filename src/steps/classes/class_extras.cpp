@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "rules/named_rows.h"
 #include "rules/thief_tables.h"
 #include "steps/classes/allotments.h"
 #include "text/numbers.h"
@@ -10,18 +11,9 @@ namespace veld {
 
 namespace {
 
-constexpr int kBarbarian = 4;
-constexpr int kBerserker = 5;
-constexpr int kKnightErrant = 8;
-constexpr int kMonk = 9;
-constexpr int kBloodMage = 14;
-
-constexpr std::size_t kQuellFrenzyQuirk = 76;
-constexpr std::size_t kQuellLustQuirk = 77;
-
 void SetBarbarianAbilities(Game& game) {
   CharacterSheet& sheet = game.sheet;
-  const int level = sheet.ClassLevels[kBarbarian];
+  const int level = sheet.ClassLevels[ClassRow::Barbarian];
   SetThiefBaseScores(game);
   sheet.BarbarianClimb = 2 * level + 60 + sheet.ThiefClimbWalls[0];
   sheet.BarbarianBackProtection = 5 * level;
@@ -42,7 +34,7 @@ void SetMonkAbilities(Game& game) {
                                             {kClimbWalls, 62, 2}};
   SetThiefBaseScores(game);
   // The book reads the level of the knights errant here: a monk who is none keeps to the first line.
-  const int last = game.sheet.ClassLevels[kKnightErrant];
+  const int last = game.sheet.ClassLevels[ClassRow::KnightErrant];
   for (const MonkAbility& monk : kMonkAbilities) {
     ThiefAbility& scores = ThiefAbilityAt(game.sheet, monk.Ability);
     scores[1] = monk.First;
@@ -56,14 +48,14 @@ void SetMonkAbilities(Game& game) {
 
 void SetClassExtras(Game& game, const NamedClass& held) {
   const int classRow = held.Row;
-  if (held.IsEntered && held.IsCaster && classRow != kBloodMage) {
+  if (held.IsEntered && held.IsCaster && classRow != ClassRow::BloodMage) {
     game.run.SpellListIndex = SaturateToInt(std::int64_t{game.sheet.Intelligence.Whole} * 2);
   }
-  if (classRow == kBarbarian) SetBarbarianAbilities(game);
-  if (classRow == kMonk) SetMonkAbilities(game);
-  if (classRow == kBerserker) {
-    game.sheet.QuirkCounts[kQuellFrenzyQuirk] = 1;
-    game.sheet.QuirkCounts[kQuellLustQuirk] = 1;
+  if (classRow == ClassRow::Barbarian) SetBarbarianAbilities(game);
+  if (classRow == ClassRow::Monk) SetMonkAbilities(game);
+  if (classRow == ClassRow::Berserker) {
+    game.sheet.QuirkCounts[QuirkRow::QuellFrenzy] = 1;
+    game.sheet.QuirkCounts[QuirkRow::QuellLust] = 1;
   }
 }
 

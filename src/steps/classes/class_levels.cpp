@@ -5,6 +5,7 @@
 #include "dice/dice.h"
 #include "referee/training.h"
 #include "rules/class_table.h"
+#include "rules/named_rows.h"
 #include "rules/race_table.h"
 #include "steps/classes/allotments.h"
 #include "steps/classes/experience_ladder.h"
@@ -13,8 +14,6 @@
 namespace veld {
 
 namespace {
-
-constexpr int kDruid = 2;
 
 constexpr int kHighestGain = 97;  ///< no level above is gained
 constexpr int kHighestDruidGain = 23;
@@ -111,7 +110,7 @@ void LoseLevel(Game& game, int classRow) {
 void AdvanceClassLevels(Game& game, int classRow) {
   if (classRow < 1 || classRow > kLastSingleClass) return;
   const int earned = EarnedLevel(classRow, game.sheet.ClassExperience[Index(classRow)]);
-  const int highest = classRow == kDruid ? kHighestDruidGain : kHighestGain;
+  const int highest = classRow == ClassRow::Druid ? kHighestDruidGain : kHighestGain;
   const int allowed = std::min({earned, highest, game.run.ClassAllowed[Index(classRow)]});
   const int& held = game.sheet.ClassLevels[Index(classRow)];
   while (held < allowed) GainLevel(game, classRow);

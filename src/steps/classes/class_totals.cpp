@@ -4,17 +4,13 @@
 #include <string>
 
 #include "rules/class_table.h"
+#include "rules/named_rows.h"
 #include "text/format.h"
 #include "text/numbers.h"
 
 namespace veld {
 
-namespace {
-
-constexpr std::size_t kBattleMage = 13;
-constexpr std::size_t kHitPointTalent = 40;  ///< a hit point for each hit die and count
-
-}  // namespace
+namespace {}  // namespace
 
 ClassTotals SumClasses(const Game& game, std::size_t rows) {
   const CharacterSheet& sheet = game.sheet;
@@ -44,7 +40,7 @@ void SetHitPoints(Game& game, const ClassTotals& totals) {
   CharacterSheet& sheet = game.sheet;
   // A battle mage has no use of a high Constitution.
   if (sheet.ClassName == "Battle Mage") sheet.ConstitutionHPAdj = std::min(sheet.ConstitutionHPAdj, 0);
-  const int perDie = AddSaturated(std::max(sheet.TalentCounts[kHitPointTalent], 0), sheet.ConstitutionHPAdj);
+  const int perDie = AddSaturated(std::max(sheet.TalentCounts[TalentRow::HitPointBonus], 0), sheet.ConstitutionHPAdj);
   const std::int64_t points = totals.HitPoints + std::int64_t{sheet.HitDiceCount} * perDie;
   sheet.HitPoints = totals.Classes > 0 ? SaturateToInt(points / totals.Classes) : 0;
 }
@@ -64,7 +60,7 @@ void SetClassTexts(CharacterSheet& sheet) {
 
 void JoinMages(CharacterSheet& sheet) {
   for (std::size_t row = 0; row < kBestSave; ++row) {
-    const bool isMage = ClassTable()[row].IsMage == 1 && row != kBattleMage;
+    const bool isMage = ClassTable()[row].IsMage == 1 && row != ClassRow::BattleMage;
     if (isMage && sheet.ClassLevels[row] > 0) sheet.IsMageClass = 1;
   }
 }

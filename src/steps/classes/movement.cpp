@@ -2,27 +2,23 @@
 
 #include <cmath>
 
+#include "rules/named_rows.h"
 #include "rules/race_table.h"
 
 namespace veld {
 
 namespace {
 
-constexpr std::size_t kBothLegsLost = 37;
-constexpr std::size_t kOneLegLost = 38;
-constexpr std::size_t kPegLegLeft = 198;
-constexpr std::size_t kPegLegRight = 199;
-
 /// The movement of the race after lost legs.
 void SetBaseMovement(CharacterSheet& sheet, const RaceRecord& race) {
-  const int left = sheet.SkillScores[kPegLegLeft];
-  const int right = sheet.SkillScores[kPegLegRight];
+  const int left = sheet.SkillScores[SkillRow::PegLegLeft];
+  const int right = sheet.SkillScores[SkillRow::PegLegRight];
   const bool noPegLeg = std::int64_t{left} + right == 0;
   int movement = race.BaseMovement;
   // The loss of one leg slows more than that of both: a slip of the book that is kept.
-  if (sheet.QuirkCounts[kBothLegsLost] == 1 && noPegLeg) movement -= 3;
-  if (sheet.QuirkCounts[kOneLegLost] == 1 && noPegLeg) movement = 4;
-  if (sheet.QuirkCounts[kOneLegLost] == 1 && left > 0 && right > 0) movement -= 1;
+  if (sheet.QuirkCounts[QuirkRow::BothLegsLost] == 1 && noPegLeg) movement -= 3;
+  if (sheet.QuirkCounts[QuirkRow::OneLegLost] == 1 && noPegLeg) movement = 4;
+  if (sheet.QuirkCounts[QuirkRow::OneLegLost] == 1 && left > 0 && right > 0) movement -= 1;
   sheet.BaseMovement = movement;
   sheet.MovementRow2 = race.SecondMovement;
 }

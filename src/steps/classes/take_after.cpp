@@ -6,6 +6,7 @@
 #include "rules/race_table.h"
 #include "steps/quirks/quirk_effects.h"
 #include "steps/race/race_choice.h"
+#include "store/sheet_accessors.h"
 
 namespace veld {
 
@@ -35,8 +36,7 @@ std::span<const std::string_view> TakeAfterRaces(std::string_view race) {
 
 void TakeAfter(Game& game, std::string_view race) {
   if (race.empty() || !Pay(game, kTakeAfterCost)) return;
-  game.sheet.TalentDetailNames[2][0] = race;
-  game.sheet.TalentDetailCounts[2][0] = 1;
+  TakeAfterRace(game.sheet, race);
   BindRaceRow(game);
   BarClassesForQuirks(game);
 }

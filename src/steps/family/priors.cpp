@@ -40,7 +40,7 @@ int RollLabelledByFirstRace(Game& game, std::string_view what, int sides) {
     return EqualsIgnoringCase(race.Name, game.sheet.RaceName) && EqualsIgnoringCase(race.Gender, game.sheet.Gender);
   };
   int row = 0;
-  while (row < kLastSearchedRace && isOwn(Race(row))) ++row;
+  while (row < kRacesFilled - 1 && isOwn(Race(row))) ++row;
   return RollLabelled(game, what, Race(row).Name, Race(row).Gender, sides);
 }
 

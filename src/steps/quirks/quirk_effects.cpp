@@ -3,14 +3,13 @@
 #include <algorithm>
 #include <numeric>
 
+#include "rules/named_rows.h"
 #include "steps/quirks/held_quirks.h"
 #include "text/numbers.h"
 
 namespace veld {
 
 namespace {
-
-constexpr int kNoDepthPerception = 46;
 
 // The columns are aligned by hand.
 // clang-format off
@@ -85,7 +84,7 @@ void ChangeAbilitiesForQuirks(Game& game) {
     score.Percentile = AddTimes(score.Percentile, effect.Percentile, times);
   }
   for (const int quirk : kOneEyed) {
-    if (HeldCount(game, quirk) > 0) HeldCount(game, kNoDepthPerception) = 1;
+    if (HeldCount(game, quirk) > 0) HeldCount(game, QuirkRow::NoDepthPerception) = 1;
   }
 }
 

@@ -2,17 +2,13 @@
 
 #include <algorithm>
 
+#include "rules/named_rows.h"
 #include "rules/quirk_table.h"
 #include "steps/quirks/held_quirks.h"
 
 namespace veld {
 
 namespace {
-
-constexpr int kHearingImpaired = 9;
-constexpr int kBaldness = 15;
-constexpr int kMissingFinger = 17;
-constexpr int kDeaf = 40;
 
 int& BPCostOf(Game& game, int row) {
   return game.run.QuirkBPCosts[static_cast<std::size_t>(row)];
@@ -32,8 +28,8 @@ void ReconcileQuirks(Game& game) {
   std::ranges::transform(QuirkTable(), game.run.QuirkBPCosts.begin(), &QuirkRecord::BPCost);
   for (int row = 0; row <= kLastQuirk; ++row) {
     if (HeldCount(game, row) <= 0) continue;
-    if (row == kBaldness && game.sheet.Gender == "Female") Wipe(game, row);
-    if (row == kDeaf) Wipe(game, kHearingImpaired);  // the catalogue leaves this pair out
+    if (row == QuirkRow::Baldness && game.sheet.Gender == "Female") Wipe(game, row);
+    if (row == QuirkRow::Deaf) Wipe(game, QuirkRow::HearingImpaired);  // the catalogue leaves this pair out
     for (const int excluded : QuirkAt(row).Excludes) {
       if (excluded > 0) Wipe(game, excluded);
     }
@@ -42,7 +38,7 @@ void ReconcileQuirks(Game& game) {
 
 void CheapenRepeats(Game& game, int taken) {
   if (QuirkAt(taken).RepeatBP == 0) return;
-  if (taken == kMissingFinger) {
+  if (taken == QuirkRow::MissingFinger) {
     BPCostOf(game, taken) = QuirkAt(taken).RepeatBP;
     return;
   }
