@@ -131,7 +131,7 @@ class DataFolder {
     setenv("XDG_DATA_HOME", path_, 1);
     veld::SilentPlatform platform;
     const auto game = veld::MakeGame(platform);
-    isReady_ = veld::EnterDataFolder(veld::UserDataFolder(), veld::ShippedDataFolder());
+    isReady_ = veld::EnterDataFolder(veld::UserDataFolder(), veld::ShippedDataFolder()).empty();
     veld::StartUp(*game);
   }
   ~DataFolder() {
