@@ -110,9 +110,12 @@ long PtyProgram::Sleeps() const {
 /// was typed has been answered by then, if only by nothing that shows.
 void PtyProgram::WaitUntilIdle(long sleeps) {
   const auto end = Clock::now() + kMostWait;
+  bool hasAnswered = false;  // what it writes comes here a little later too
   while (Clock::now() < end && IsRunning()) {
-    if (IsWaiting() && Sleeps() > sleeps && !Read(0)) return;
-    Read(1);
+    const bool isOver = IsWaiting() && Sleeps() > sleeps;
+    const bool hasCome = Read(!isOver ? 1 : hasAnswered ? 4 : 60);
+    if (isOver && !hasCome) return;
+    hasAnswered |= hasCome;
   }
 }
 
