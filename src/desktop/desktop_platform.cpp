@@ -16,6 +16,7 @@
 #include "desktop/fonts_ahead.h"
 #include "desktop/form_window.h"
 #include "desktop/main_window.h"
+#include "desktop/program_icon.h"
 #include "platform/main_window.h"
 #include "platform/progress_form.h"
 
@@ -61,8 +62,8 @@ void FollowFilter(QFileDialog& dialog, std::span<const FileFilter> filters) {
   }
 }
 
-/// Starts the program's work when its window has been painted for the first time: the player sees it at once, and waits
-/// for the rest with it before him.
+/// Runs what can wait when the window has been painted for the first time: the player sees it at once, and waits for
+/// the rest with it before him.
 class AfterFirstPaint : public QObject {
  public:
   AfterFirstPaint(QWidget& window, std::function<void()> start) : QObject(&window), start_(std::move(start)) {
@@ -169,6 +170,11 @@ void DesktopPlatform::SweepSoon() {
   QTimer::singleShot(0, &timers_, [this] { Sweep(); });
 }
 
+/// Runs a part of the start when what was shown before it has been painted.
+void DesktopPlatform::SoonAfter(std::function<void()> act) {
+  QTimer::singleShot(0, main_.get(), [this, act] { QTimer::singleShot(0, main_.get(), [this, act] { Act(act); }); });
+}
+
 /// Runs a handler of the main window. What it throws must not pass through the toolkit.
 void DesktopPlatform::Act(const std::function<void()>& act) {
   try {
@@ -186,15 +192,21 @@ void DesktopPlatform::Fail(std::exception_ptr error) {
 void DesktopPlatform::RunMainWindow(const MainWindow& window) {
   main_ = std::make_unique<MainPage>();
   main_->setWindowTitle(title_.isEmpty() ? ToQtTitle(window.Title) : title_);
-  main_->SetMenu(window.Menu);
-  main_->SetStyle(Style());
   QEventLoop loop;
   mainLoop_ = &loop;
   main_->onCommand = [&](int id) {
     if (window.onCommand) Act([&] { window.onCommand(id); });
   };
   main_->onClosed = [&] { loop.quit(); };
-  if (window.onStart) new AfterFirstPaint(*main_, [&] { Act([&] { window.onStart(); }); });
+  // The paper needs no font and no picture. The menu and the icon come when the player has the window before him.
+  new AfterFirstPaint(*main_, [&] {
+    Act([&] {
+      Style();
+      main_->SetMenu(window.Menu);
+      QApplication::setWindowIcon(ProgramIcon());
+      if (window.onStart) SoonAfter([&] { window.onStart(); });
+    });
+  });
   main_->show();
   loop.exec();
   mainLoop_ = nullptr;

@@ -53,6 +53,7 @@ class DesktopPlatform : public Platform {
   const PaperStyle& Style();
   QWidget* Top() const;
   bool RunFileDialog(QFileDialog& dialog, std::span<const FileFilter> filters);
+  void SoonAfter(std::function<void()> act);
   void Act(const std::function<void()>& act);
   void Fail(std::exception_ptr error);
   void SweepSoon();

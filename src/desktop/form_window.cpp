@@ -58,7 +58,7 @@ FormWindow::FormWindow(Form& form, const PaperStyle& style, QWidget* parent)
   scroll_ = new QScrollArea(this);
   scroll_->setFrameShape(QFrame::NoFrame);
   scroll_->setFocusPolicy(Qt::NoFocus);
-  paper_ = new Paper(style, nullptr);
+  paper_ = new Paper(style.Metrics.MarginTop, style.Metrics.Pitch, nullptr);
   paper_->SetHasEdge(true);
   scroll_->setWidget(paper_);
   form_.SetObserver(this);

@@ -12,29 +12,28 @@ namespace veld {
 namespace {
 
 constexpr QSize kPageSize(800, 600);
-constexpr int kBeside = 24;  // from the corner of the paper to a window on it
+constexpr int kPaperTop = 11;    // the first rule is at 30
+constexpr int kPaperPitch = 20;  // as the rules of the main window have always been, whatever the font
+constexpr int kMenuRoom = 22;    // kept free for the menu until it is there
 
 }  // namespace
 
-MainPage::MainPage() : menu_(new QMenuBar(this)) {
+MainPage::MainPage() : paper_(new Paper(kPaperTop, kPaperPitch, this)) {
   auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->setMenuBar(menu_);
+  layout->setContentsMargins(0, kMenuRoom, 0, 0);
+  layout->addWidget(paper_);
   const QRect room = screen()->availableGeometry();
   resize(kPageSize.boundedTo(room.size()));
   move(room.topLeft());
 }
 
-void MainPage::SetStyle(const PaperStyle& style) {
-  paper_ = new Paper(style, this);
-  layout()->addWidget(paper_);
-}
-
 void MainPage::SetMenu(const std::vector<MenuItem>& items) {
-  menu_->clear();
-  FillMenu(*menu_, items, [this](int id) {
+  auto* menu = new QMenuBar(this);
+  FillMenu(*menu, items, [this](int id) {
     if (onCommand) onCommand(id);
   });
+  layout()->setContentsMargins(0, 0, 0, 0);
+  layout()->setMenuBar(menu);
 }
 
 QPoint MainPage::PagePlace() const {

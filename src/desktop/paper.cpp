@@ -75,8 +75,7 @@ class RowPainter : public QStyledItemDelegate {
 
 // --- Paper -------------------------------------------------------------------------------------------------------
 
-Paper::Paper(const PaperStyle& style, QWidget* parent)
-    : QWidget(parent), top_(style.Metrics.MarginTop), pitch_(style.Metrics.Pitch) {
+Paper::Paper(int top, int pitch, QWidget* parent) : QWidget(parent), top_(top), pitch_(pitch) {
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
 

@@ -16,7 +16,7 @@ namespace veld {
 /// White paper with a pale-blue rule under every line.
 class Paper : public QWidget {
  public:
-  Paper(const PaperStyle& style, QWidget* parent);
+  Paper(int top, int pitch, QWidget* parent);            ///< the first line's top edge, and from rule to rule
   void SetHasEdge(bool hasEdge) { hasEdge_ = hasEdge; }  ///< where white paper lies on white paper
 
  protected:

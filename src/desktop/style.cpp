@@ -2,14 +2,12 @@
 
 #include <QApplication>
 #include <QFontMetrics>
-#include <QIcon>
 #include <QLocale>
 #include <QScreen>
 #include <algorithm>
 #include <clocale>
 
 #include "desktop/paper_look.h"
-#include "desktop/program_icon.h"
 
 namespace veld {
 
@@ -80,7 +78,6 @@ void SetUpLook() {
   QApplication::setStyle(MakePaperLook());
   QApplication::setPalette(PaperPalette());
   QApplication::setFont(PageFont());
-  QApplication::setWindowIcon(ProgramIcon());
 }
 
 QString ToQt(std::string_view text) {
