@@ -31,6 +31,13 @@ static_assert(offsetof(EquipmentRecord, GoldCost) == 52 && offsetof(EquipmentRec
               offsetof(EquipmentRecord, Weight) == 68 && offsetof(EquipmentRecord, Category) == 72 &&
               offsetof(EquipmentRecord, Quantity) == 76 && offsetof(EquipmentRecord, LegacyId) == 80);
 
+/// A row without its good: what remains is the row's own number.
+inline EquipmentRecord Emptied(const EquipmentRecord& row) {
+  EquipmentRecord empty;
+  empty.LegacyId = row.LegacyId;
+  return empty;
+}
+
 /// Bytes of an equipment file.
 inline constexpr std::size_t kEquipmentFileBytes = kEquipmentRows * sizeof(EquipmentRecord);
 

@@ -2,6 +2,7 @@
 
 #include "dice/dice.h"
 #include "dice/dice_tester.h"
+#include "editors/custom_item_editor.h"
 #include "generation/main_title.h"
 #include "generation/save_by_extension.h"
 #include "generation/sequencer.h"
@@ -59,7 +60,7 @@ std::vector<MenuItem> MainMenu() {
       {.Text = "&Help",
        .Items = {{.Id = kDiceTester, .Text = "&Dice Tester 3d6"},
                  {.Id = kOptions, .Text = "&Options"},
-                 later(kCustomItems, "&Custom Item Editor"),
+                 {.Id = kCustomItems, .Text = "&Custom Item Editor"},
                  {.Id = kAbout, .Text = "&About VELD"}}},
       {.Text = "&GM",
        .Items = {{.Id = kDiceRoller, .Text = "&Dice Roller"},
@@ -78,6 +79,7 @@ void RunMainCommand(Game& game, int id) {
     case kDiceRoller: return RunGmDiceRoller(game);
     case kDiceTester: return RunDiceTester(game);
     case kOptions: return RunOptions(game);
+    case kCustomItems: return RunCustomItemEditor(game);
     case kAbout: return RunAbout(game);
     case kHonorTracking: return RunHonorTracking(game);
     case kCriticalHits: return RunCriticalHits(game);

@@ -253,6 +253,7 @@ void AddCustomItem(Game& game, const EquipmentRecord& item) {
   const int legacyId = free->LegacyId;
   *free = item;
   free->LegacyId = legacyId;
+  game.CameWithCharacter.set(static_cast<std::size_t>(free - table.begin()));
 }
 
 /// Keeps a file of an older version before it is overwritten by one of the current version. False if there is a file

@@ -39,7 +39,8 @@ std::string EncodeCharacter(const CharacterSheet& sheet, const CharacterGoods& g
 std::string EncodeCharacter(const Game& game);
 
 /// Makes `draft` the character in memory, a finished one, of the player who sits there. Custom items that the user's
-/// list does not have are added to it in memory; one that finds no free row is told.
+/// list does not have are added to it in memory, as the character's own (see CameWithCharacter); one that finds no free
+/// row is told.
 void TakeCharacter(Game& game, const CharacterDraft& draft);
 
 /// Saves the character, with a message. The first overwriting of a file of an older version keeps that as ".bak".

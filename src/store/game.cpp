@@ -110,7 +110,12 @@ void ResetCharacter(Game& game) {
   game.recoveryCopy.clear();
   for (std::size_t row = 0; row < kQuirkRows; ++row) game.run.QuirkBPCosts[row] = QuirkTable()[row].BPCost;
   for (EquipmentRecord& goods : game.EquipmentTable) goods.Quantity = 0;
-  for (EquipmentRecord& goods : game.CustomEquipmentTable) goods.Quantity = 0;
+  for (std::size_t row = 0; row < kEquipmentRows; ++row) {
+    EquipmentRecord& goods = game.CustomEquipmentTable[row];
+    if (game.CameWithCharacter[row]) goods = Emptied(goods);
+    goods.Quantity = 0;
+  }
+  game.CameWithCharacter.reset();
   game.RuleSwitches[kCoreRules] = 1;
   game.dice.RandomState = static_cast<std::uint32_t>(game.platform.Now());
 }

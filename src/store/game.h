@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <bitset>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -53,6 +54,8 @@ struct Game {
   RuleSwitchArray RuleSwitches = kDefaultRuleSwitches;
   std::array<EquipmentRecord, kEquipmentRows> EquipmentTable{};
   std::array<EquipmentRecord, kEquipmentRows> CustomEquipmentTable{};
+  std::bitset<kEquipmentRows> CameWithCharacter;  ///< rows of CustomEquipmentTable that are the character's, not the
+                                                  ///< user's: they are in no cequip.vlb, and leave with him
   std::array<SpellRecord, kSpellRows> SpellTable{};
   std::string TextScratch;            ///< the name that a purchase or grant is for
   std::shared_ptr<Form> stepThree;    ///< the open StepThree window
@@ -69,7 +72,8 @@ struct Game {
 std::unique_ptr<Game> MakeGame(Platform& platform);
 
 /// Puts the character, the run and all quantities owned to their defaults, the core rules on, and seeds the dice with
-/// the clock. Keeps the player's name, what the catalogues hold, and the recovery copy of the character that was there.
+/// the clock. Frees the rows of goods that came with the character. Keeps the player's name, what else the
+/// catalogues hold, and the recovery copy of the character that was there.
 void ResetCharacter(Game& game);
 
 }  // namespace veld

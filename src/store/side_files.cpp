@@ -1,6 +1,7 @@
 #include "store/side_files.h"
 
 #include <algorithm>
+#include <memory>
 #include <span>
 
 #include "platform/platform.h"
@@ -169,6 +170,7 @@ bool LoadCustomEquipment(Game& game) {
   switch (ReadWholeFile(kCustomEquipmentPath, bytes, kEquipmentFileBytes)) {
     case FileRead::Done:
       DecodeEquipment(bytes, game.CustomEquipmentTable);
+      game.CameWithCharacter.reset();
       return true;
     case FileRead::Unreadable:
       return Tell(game, "Problem Loading cequip.vlb file");
@@ -182,8 +184,11 @@ bool LoadCustomEquipment(Game& game) {
 }
 
 bool SaveCustomEquipment(Game& game, SaveWay way) {
-  return (KeepShortCustomEquipment(way) &&
-          SaveWholeFile(kCustomEquipmentPath, EncodeEquipment(game.CustomEquipmentTable), way)) ||
+  const auto own = std::make_unique<EquipmentArray>(game.CustomEquipmentTable);
+  for (std::size_t row = 0; row < kEquipmentRows; ++row) {
+    if (game.CameWithCharacter[row]) (*own)[row] = Emptied((*own)[row]);
+  }
+  return (KeepShortCustomEquipment(way) && SaveWholeFile(kCustomEquipmentPath, EncodeEquipment(*own), way)) ||
          Tell(game, "Problem Loading cequip.vlb file");
 }
 

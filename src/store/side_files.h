@@ -20,7 +20,8 @@ bool LoadEquipment(Game& game);
 
 /// Reads cequip.vlb, or makes it from memory if there is none. One that can't be read is left alone.
 bool LoadCustomEquipment(Game& game);
-/// The first overwriting of a file that is too short keeps that as ".bak".
+/// Without the goods that came with the character. The first overwriting of a file that is too short keeps that as
+/// ".bak".
 bool SaveCustomEquipment(Game& game, SaveWay way = {});
 
 /// Empties the spell table and fills it from spells.vld. The character knows no spell afterwards.

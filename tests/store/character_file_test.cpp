@@ -276,6 +276,7 @@ TEST_F(LoadedFile, GivesCustomItemsToTheSameRowsOrToAFreeOne) {
   EXPECT_EQ(custom[1].GoldCost, 5);
   EXPECT_EQ(custom[1].Quantity, 2);
   EXPECT_EQ(custom[1].LegacyId, 12);
+  game->CameWithCharacter.reset();  // the user keeps it
   custom[5] = custom[1];
   LoadCharacterFile(*game, "a.vlf");
   EXPECT_EQ(custom[1].Quantity, 2);

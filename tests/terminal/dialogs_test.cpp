@@ -8,6 +8,7 @@
 #include <set>
 
 #include "dice/dice.h"
+#include "editors/custom_item_editor.h"
 #include "generation/sequencer.h"
 #include "platform/ask_name.h"
 #include "pty_program.h"
@@ -134,6 +135,7 @@ const Dialog kDialogs[] = {
     {"About VELD", RunAbout, true},
     {"GM - Honor Tracking System", RunHonorTracking},
     {"Critical Hits", RunCriticalHits},
+    {"Custom Item Editor", RunCustomItemEditor},
 };
 
 /// A character that has been through a generation, so that every dialog has something to show.
