@@ -8,6 +8,7 @@
 #include "sheets/html_sheet.h"
 #include "sheets/tab_sheet.h"
 #include "sheets/text_sheet.h"
+#include "sheets/xml_sheet.h"
 #include "silent_platform.h"
 #include "steps/classes/class_recalculation.h"
 #include "store/file_layout.h"
@@ -58,12 +59,15 @@ void WriteSheet(benchmark::State& state) {
 BENCHMARK(WriteSheet<TextSheet>)->Name("TextSheet, promised below 2 ms")->Unit(benchmark::kMicrosecond);
 BENCHMARK(WriteSheet<TabSheet>)->Name("TabSheet, promised below 2 ms")->Unit(benchmark::kMicrosecond);
 BENCHMARK(WriteSheet<HtmlSheet>)->Name("HtmlSheet, promised below 5 ms")->Unit(benchmark::kMicrosecond);
+BENCHMARK(WriteSheet<XmlSheet>)->Name("XmlSheet, promised below 10 ms")->Unit(benchmark::kMicrosecond);
 
+template <std::string (*Sheet)(Game&)>
 void FloorCopySheet(benchmark::State& state) {
-  const std::string sheet = HtmlSheet(*MakeFullGame());
+  const std::string sheet = Sheet(*MakeFullGame());
   for (auto _ : state) benchmark::DoNotOptimize(std::string(sheet));
 }
-BENCHMARK(FloorCopySheet)->Unit(benchmark::kMicrosecond);
+BENCHMARK(FloorCopySheet<HtmlSheet>)->Unit(benchmark::kMicrosecond);
+BENCHMARK(FloorCopySheet<XmlSheet>)->Unit(benchmark::kMicrosecond);
 
 void LoadShippedSpells(benchmark::State& state) {
   const auto game = MakeFullGame();

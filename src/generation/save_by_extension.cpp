@@ -5,7 +5,6 @@
 #include "steps/race/step_three.h"
 #include "store/character_file.h"
 #include "text/file_name.h"
-#include "text/format.h"
 #include "text/search.h"
 
 namespace veld {
@@ -19,10 +18,6 @@ constexpr FileFilter kSaveFilters[] = {
 };
 constexpr FileFilter kLoadFilters[] = {{"Quellmarch Files (*.VLF)", ".vlf"}};
 
-void TellNoWriter(Game& game, std::string_view kind) {
-  game.platform.ShowMessage(Format("This version of VELD does not write %s sheets yet.", kind));
-}
-
 }  // namespace
 
 void SaveByExtension(Game& game, const std::string& path) {
@@ -34,7 +29,7 @@ void SaveByExtension(Game& game, const std::string& path) {
   } else if (has(".txt") || has(".TXT")) {
     SaveTextSheet(game, path);
   } else if (has(".xml") || has(".XML")) {
-    TellNoWriter(game, "XML");
+    SaveXmlSheet(game, path);
   } else if (has(".csv") || has(".CSV")) {
     SaveTabSheet(game, path);
   } else {

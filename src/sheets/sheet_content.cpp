@@ -9,8 +9,7 @@
 #include "rules/proficiency_table.h"
 #include "rules/quirk_table.h"
 #include "rules/race_table.h"
-#include "rules/skill_table.h"
-#include "rules/talent_table.h"
+#include "sheets/sheet_facts.h"
 #include "steps/abilities/ability_effects_apply.h"
 #include "steps/classes/class_chain.h"
 #include "steps/classes/class_recalculation.h"
@@ -29,21 +28,12 @@ namespace {
 using enum SheetForm;
 using Sheet = CharacterSheet;
 
-constexpr int kAssassinsFirstLevel = 3;  ///< an assassin has no thief's skills before
 constexpr std::size_t kSiblingsShown = 9;
 
 constexpr SheetPart kLabelledLine{"%s: %s \n", true};
 
 std::size_t At(int number) {
   return static_cast<std::size_t>(number);
-}
-
-/// A typed text as one line: tabs and line ends are blanks.
-std::string OneLine(std::string_view text) {
-  std::string line = DisplayText(text);
-  std::ranges::replace_if(
-      line, [](char c) { return c == '\t' || c == '\n' || c == '\r'; }, ' ');
-  return line;
 }
 
 std::string Number(int number) {
@@ -218,12 +208,6 @@ void AddSaves(const Sheet& s, SheetContent& content) {
   };
 }
 
-/// A proficiency held, with its mark.
-struct HeldWeapon {
-  const ProficiencyRecord* Weapon;
-  int Mark;
-};
-
 /// The proficiencies with a mark: pass after pass, so that those of one mark stand together.
 std::vector<HeldWeapon> HeldWeapons(const Sheet& sheet) {
   using namespace ProficiencyMark;
@@ -236,20 +220,6 @@ std::vector<HeldWeapon> HeldWeapons(const Sheet& sheet) {
     }
   }
   return weapons;
-}
-
-/// The adjustments that a mark brings with a weapon, empty for none: "-1" for a limited proficiency.
-std::string_view HitAdjustment(const HeldWeapon& held) {
-  const bool isMissile = held.Weapon->Kind == ProficiencyKind::Missile;
-  if (held.Mark == ProficiencyMark::Limited) return "-1";
-  if (held.Mark == ProficiencyMark::Specialized) return isMissile ? "+2" : "+1";
-  return held.Mark >= kMasteryMark && !isMissile ? "+2" : "";
-}
-
-std::string_view DamageAdjustment(const HeldWeapon& held) {
-  if (held.Weapon->Kind == ProficiencyKind::Missile) return "";
-  if (held.Mark == ProficiencyMark::Specialized) return "+2";
-  return held.Mark >= kMasteryMark ? "+3" : "";
 }
 
 SheetBlock& AddWeaponTable(SheetContent& content, std::string_view title, std::size_t blanks, std::string_view speed) {
@@ -319,10 +289,7 @@ void AddFight(const Sheet& sheet, SheetContent& content) {
 void AddMovement(const Sheet& s, SheetContent& content) {
   constexpr SheetTab kLimit{TabRow::Encumbrance, " \t %s"};
   constexpr SheetTab kMove{TabRow::Movement, " \t %s"};
-  const int light = AddSaturated(0, s.WeightAllowanceLight);  // pounds from which a burden counts as light, and so on
-  const int moderate = AddSaturated(light, s.WeightAllowanceModerate);
-  const int heavy = AddSaturated(moderate, s.WeightAllowanceHeavy);
-  const int severe = AddSaturated(heavy, s.WeightAllowanceSevere);
+  const auto limits = EncumbranceLimits(s);
   const std::string carried = Format("%.2f", s.CarriedWeightLbs);
   SheetBlock& block = AddBlock(content, {"Movement and Encumbrance", SheetLevel::ShortSection, SheetShape::Table});
   block.TextLead = Headed(20, "Movement and Encumbrance",
@@ -330,11 +297,11 @@ void AddMovement(const Sheet& s, SheetContent& content) {
   block.Columns = {"", "Unencumbered", "Light", "Moderate", "Heavy", "Severe"};
   block.Facts = {
       {"", "Encumbrance (lbs)", "                  |", {}, RowHead},
-      {"", "0", "%-14s|", kLimit, Cell},
-      {"", Number(light), "%-12s|", kLimit, Cell},
-      {"", Number(moderate), "%-13s|", kLimit, Cell},
-      {"", Number(heavy), "%-10s|", kLimit, Cell},
-      {"", Number(severe), "%-12s\n", kLimit, Cell},
+      {"", Number(limits[0]), "%-14s|", kLimit, Cell},
+      {"", Number(limits[1]), "%-12s|", kLimit, Cell},
+      {"", Number(limits[2]), "%-13s|", kLimit, Cell},
+      {"", Number(limits[3]), "%-10s|", kLimit, Cell},
+      {"", Number(limits[4]), "%-12s\n", kLimit, Cell},
       {"Carried", carried, "%-18s|", kMove, Fact, "%s lbs"},
       {"", "Movement", "", {}, RowHead},
       {"", Number(s.BaseMovement), "%-14s|", kMove, Cell},
@@ -391,12 +358,6 @@ void AddTattoos(const Sheet& sheet, SheetContent& content) {
 }
 
 // ---- Callings and youths ----
-
-bool IsShownAsMage(const Sheet& sheet) {
-  constexpr std::string_view kMages[] = {"Elementalist", "Blood Mage", "Painted Mage", "Wild Mage"};
-  const auto isNamed = [&](std::string_view name) { return Contains(sheet.ClassName, name); };
-  return sheet.IsMageClass == 1 || sheet.ClassName == "Battle Mage" || std::ranges::any_of(kMages, isNamed);
-}
 
 void AddLine(std::vector<SheetFact>& facts, std::string_view label, std::string_view value) {
   facts.push_back({std::string(label), OneLine(value), kLabelledLine, {}});
@@ -494,8 +455,7 @@ void AddFighter(const Sheet& s, SheetContent& content) {
     AddTold(*facts, "Local Attitude to Occupying Force", s.OccupationAttitude);
     AddTold(*facts, "Notable Events During Occupation", s.OccupationEvents);
     AddTold(*facts, "Notable Events to Quell Guerilla Movement", s.GuerillaEvents);
-    constexpr std::size_t kTours = 4;  // the fifth text is scratch
-    for (std::size_t tour = 0; tour < kTours; ++tour) {
+    for (std::size_t tour = 0; tour < kToursShown; ++tour) {
       AddTold(*facts, "Notable Events During Non-Combat Tour of Duty", s.NonCombatTourEvents[tour]);
     }
     AddPackage(*facts, s);
@@ -503,30 +463,6 @@ void AddFighter(const Sheet& s, SheetContent& content) {
 }
 
 // ---- Class abilities ----
-
-// clang-format off
-/// A thief's ability and what armor changes of it.
-struct ThiefAbilityRow {
-  std::string_view Name;
-  int NoArmor;
-  int ElvenChain;
-  int Studded;  ///< studded leather, ring mail, padded
-};
-constexpr std::array<ThiefAbilityRow, kThiefAbilities> kThiefRows{{
-    // ability            none  chain  studded
-    {"Pick Pockets",         5,   -20,     -25},
-    {"Open Locks",           0,    -5,     -10},
-    {"Find Traps",           0,    -5,     -10},
-    {"Remove Traps",         0,    -5,     -10},
-    {"Move Silently",       10,   -10,     -15},
-    {"Hide in Shadows",      5,   -10,     -15},
-    {"Detect Noise",         0,    -5,      -5},
-    {"Climb Walls",         10,   -20,     -25},
-    {"Read Languages",       0,     0,       0},
-}};
-constexpr ThiefAbilityRow kInTheOpen{"Hide in Natural Surroundings", 5, -10, -15};
-constexpr ThiefAbilityRow kOnCliffs {"Climb Cliffs and Trees",      10, -20, -25};
-// clang-format on
 
 /// A table of percentile abilities. On the tab-separated sheet it is two lines, the abilities and the values without
 /// any thought of armor; that sheet has none for the assassins.
@@ -544,8 +480,10 @@ class AbilityTable {
     block_->Facts.push_back({"", std::string(title), "", Tab(" \n%s RATING", 1), Hidden});
   }
 
-  void Add(const ThiefAbilityRow& row, int base) {
+  void Add(const ClassAbility& ability) {
     constexpr std::size_t kLeads = 2;
+    const ClassAbilityRow& row = *ability.Row;
+    const int base = ability.Base;
     const bool isFirst = block_->Facts.size() == kLeads;
     const auto adjusted = [&](int change) { return Number(AddSaturated(base, change)); };
     block_->Facts.insert(block_->Facts.end(),
@@ -566,33 +504,10 @@ class AbilityTable {
   bool isOnTab_;
 };
 
-void AddThiefTable(const Sheet& sheet, SheetContent& content, std::string_view title,
-                   std::initializer_list<std::size_t> abilities) {
-  AbilityTable table(content, title);
-  for (const std::size_t ability : abilities) {
-    table.Add(kThiefRows[ability], LevelSum(ThiefAbilityAt(sheet, ability)));
-  }
-}
-
-void AddBarbarianTable(const Sheet& sheet, SheetContent& content) {
-  AbilityTable table(content, "Barbarian Abilities");
-  table.Add({"Back Protection", 0, 0, 0}, sheet.BarbarianBackProtection);
-  table.Add({"Detect Illusion", 0, 0, 0}, sheet.BarbarianDetectIllusion);
-  table.Add(kInTheOpen, sheet.BarbarianHide);
-  table.Add({"Barbarian Tracking", 0, 0, 0}, sheet.BarbarianTracking);
-  table.Add(kOnCliffs, sheet.BarbarianClimb);
-}
-
-void AddClassAbilities(const Sheet& s, SheetContent& content) {
-  const auto allNine = {0UL, 1UL, 2UL, 3UL, 4UL, 5UL, 6UL, 7UL, 8UL};
-  if (Contains(s.ClassName, "Barbarian")) AddBarbarianTable(s, content);
-  if (s.ClassName == "Monk") AddThiefTable(s, content, "Monk Abilities", {2, 4, 5, 6, 7});
-  if (s.ClassName == "Bard") AddThiefTable(s, content, "Bard Abilities", {0, 6, 7, 8});
-  if (HasClass(s, ClassRow::Thief) || HasClass(s, ClassRow::BountyHunter)) {
-    AddThiefTable(s, content, "Thief Abilities", allNine);
-  }
-  if (s.ClassLevels[ClassRow::Assassin] >= kAssassinsFirstLevel) {
-    AddThiefTable(s, content, "Assassin Abilities", allNine);
+void AddClassAbilities(const Sheet& sheet, SheetContent& content) {
+  for (const ClassAbilityList& list : ClassAbilityLists(sheet)) {
+    AbilityTable table(content, list.Title);
+    for (const ClassAbility& ability : list.Abilities) table.Add(ability);
   }
 }
 
@@ -624,14 +539,6 @@ void AddAccomplishment(SheetBlock& block, SheetFact fact, std::string_view tabVa
   block.Facts.push_back({"", std::string(tabValue), "", {TabRow::AccomplishmentValues, "%s \t"}, Hidden});
 }
 
-/// "Basic"; empty for a mark that is none.
-std::string_view MarkName(int mark) {
-  if (mark == ProficiencyMark::Limited) return "Limited";
-  if (mark == ProficiencyMark::Proficient) return "Basic";
-  if (mark == ProficiencyMark::Specialized) return "Specialized";
-  return mark >= kMasteryMark ? "Mastery" : "";
-}
-
 void AddProficiencies(const Sheet& sheet, SheetContent& content) {
   SheetBlock& block =
       AddBlock(content, {"Weapon Proficiencies", SheetLevel::Part, SheetShape::List, "Weapon Proficiencies \n", "\n"});
@@ -657,52 +564,20 @@ void AddProficiencies(const Sheet& sheet, SheetContent& content) {
   }
 }
 
-/// The name of an item of a family, led by the family's name where the item does not say it.
-std::string ItemName(std::string_view family, std::string_view item) {
-  const std::string name = OneLine(TrimRight(item));
-  return Contains(name, family) ? name : Format("%s: %s", family, name);
-}
-
 /// The rating of a talent says how much of it ("x2", "d6") where there is a measure of it, else it is empty.
 void AddTalents(const Sheet& sheet, SheetContent& content) {
   SheetBlock& block = AddBlock(content, {"Talents", SheetLevel::Part, SheetShape::List, "Talents \n", "\n"});
-  const auto add = [&](const std::string& name, const std::string& rating) {
-    AddAccomplishment(block, {name, rating, {"%s %s\n", true}, {}}, rating.empty() ? name : rating);
-  };
-  for (std::size_t row = 0; row < kTalentRows; ++row) {
-    const std::string_view name = TrimRight(TalentTable()[row].Name);
-    const int count = sheet.TalentCounts[row];
-    if (count <= 0 || name.empty()) continue;
-    const std::string_view measure = Contains(name, "Bonus") ? "x%i" : Contains(name, "Lucky") ? "d%i" : "";
-    add(std::string(name), Format(measure, count));
-  }
-  for (std::size_t family = 0; family < kDetailRows; ++family) {
-    const std::string_view name = TrimRight(TalentTable2()[family].Name);
-    for (std::size_t item = 0; item < kDetailRows; ++item) {
-      const int count = sheet.TalentDetailCounts[family][item];
-      if (count <= 0) continue;
-      const std::string_view measure = Contains(name, "Bonus") ? "x%i" : "";
-      add(ItemName(name, sheet.TalentDetailNames[family][item]), Format(measure, count));
-    }
+  for (const HeldAbility& held : HeldTalents(sheet)) {
+    const std::string rating = Format(held.Measure, held.Amount);
+    AddAccomplishment(block, {held.Name, rating, {"%s %s\n", true}, {}}, rating.empty() ? held.Name : rating);
   }
 }
 
 void AddSkills(const Sheet& sheet, SheetContent& content) {
   SheetBlock& block = AddBlock(content, {"Skills", SheetLevel::Part, SheetShape::List, "Skills \n"});
-  const auto add = [&](const std::string& name, int mastery) {
-    const std::string percent = Number(mastery);
-    AddAccomplishment(block, {name, percent, {"%s %s%% \n", true}, {}, Fact, "%s%%"}, percent);
-  };
-  for (std::size_t row = 0; row < kSkillRows; ++row) {
-    const std::string_view name = TrimRight(SkillTable()[row].Name);
-    if (sheet.SkillScores[row] > 0 && !name.empty()) add(std::string(name), sheet.SkillScores[row]);
-  }
-  for (std::size_t family = 0; family < kDetailRows; ++family) {
-    const std::string_view name = TrimRight(SkillTable2()[family].Name);
-    for (std::size_t item = 0; item < kDetailRows; ++item) {
-      const int score = sheet.SkillDetailCounts[family][item];
-      if (score > 0) add(ItemName(name, sheet.SkillDetailNames[family][item]), score);
-    }
+  for (const HeldAbility& held : HeldSkills(sheet)) {
+    const std::string percent = Number(held.Amount);
+    AddAccomplishment(block, {held.Name, percent, {"%s %s%% \n", true}, {}, Fact, "%s%%"}, percent);
   }
 }
 
@@ -717,31 +592,29 @@ void AddAccomplishments(const Sheet& sheet, SheetContent& content) {
 // ---- Belongings, family, notes ----
 
 // clang-format off
-struct CoinRow {
-  std::string_view Name;
-  int Sheet::*Count;
+struct CoinParts {
   SheetPart Text;
   SheetPart Tab;
 };
-constexpr CoinRow kCoinRows[] = {
-    {"Copper Pieces",      &Sheet::CopperPieces,     "%s Copper Pieces \n",      "\n Copper Pieces \t %s cp"},
-    {"Silver Pieces",      &Sheet::SilverPieces,     "%s Silver Pieces \n",      "\n Silver Pieces \t %s sp"},
-    {"Electrum Pieces",    &Sheet::ElectrumPieces,   "%s Electrum Pieces \n",    "\n Electrum Pieces \t %s ep"},
-    {"Gold Pieces",        &Sheet::GoldPieces,       "%s Gold Pieces \n",        "\n Gold Pieces \t %s gp"},
-    {"Hard Silver Pieces", &Sheet::HardSilverPieces, "%s Hard Silver Pieces \n", "\n Hard Silver Pieces \t %s hsp"},
-    {"Platinum Pieces",    &Sheet::PlatinumPieces,   "%s Platinum Pieces \n",    "\n Platinum Pieces \t %s pp"},
-};
+constexpr std::array<CoinParts, kCoins.size()> kCoinParts{{
+    {"%s Copper Pieces \n",      "\n Copper Pieces \t %s cp"},
+    {"%s Silver Pieces \n",      "\n Silver Pieces \t %s sp"},
+    {"%s Electrum Pieces \n",    "\n Electrum Pieces \t %s ep"},
+    {"%s Gold Pieces \n",        "\n Gold Pieces \t %s gp"},
+    {"%s Hard Silver Pieces \n", "\n Hard Silver Pieces \t %s hsp"},
+    {"%s Platinum Pieces \n",    "\n Platinum Pieces \t %s pp"},
+}};
 // clang-format on
 
 void AddMoney(const Sheet& sheet, SheetContent& content) {
   SheetBlock& coins = AddBlock(content, {"Coins & Money", SheetLevel::Part, SheetShape::Facts, "Coins & Money \n"});
-  for (const CoinRow& coin : kCoinRows) {
-    const int count = sheet.*coin.Count;
+  for (std::size_t i = 0; i < kCoins.size(); ++i) {
+    const int count = sheet.*kCoins[i].Count;
     const bool isOwned = count > 0;  // the tab-separated sheet has a line for every coin
-    coins.Facts.push_back({std::string(coin.Name),
+    coins.Facts.push_back({std::string(kCoins[i].Name),
                            Number(count),
-                           isOwned ? coin.Text : SheetPart{},
-                           {TabRow::Coins, coin.Tab},
+                           isOwned ? kCoinParts[i].Text : SheetPart{},
+                           {TabRow::Coins, kCoinParts[i].Tab},
                            isOwned ? Fact : Hidden});
   }
   std::vector<SheetFact> facts;

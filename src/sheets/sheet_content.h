@@ -16,9 +16,6 @@ class Form;
 // sheet a fact belongs to a row. The names of catalogues come without the blanks at their ends; texts that players
 // typed are one line each, tabs and line ends read as blanks.
 
-/// The first of the proficiency marks that count as Mastery on a sheet; see ProficiencyMark for the others.
-inline constexpr int kMasteryMark = 3;
-
 /// How a format prints a fact: a pattern for the value, or for the label and the value. Empty: not at all.
 struct SheetPart {
   constexpr SheetPart() = default;

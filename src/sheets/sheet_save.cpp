@@ -5,6 +5,7 @@
 #include "sheets/sheet_content.h"
 #include "sheets/tab_sheet.h"
 #include "sheets/text_sheet.h"
+#include "sheets/xml_sheet.h"
 
 namespace veld {
 
@@ -30,6 +31,13 @@ bool SaveTabSheet(Game& game, const std::string& path, SaveWay way) {
 bool SaveHtmlSheet(Game& game, const std::string& path, SaveWay way) {
   const bool isSaved = SaveWholeFile(path, HtmlSheet(game), way);
   game.platform.ShowMessage(isSaved ? "Character Saved in HTML format" : "Problem creating html file");
+  return isSaved;
+}
+
+bool SaveXmlSheet(Game& game, const std::string& path, SaveWay way) {
+  const bool isSaved = SaveWholeFile(path, XmlSheet(game), way);
+  game.platform.ShowMessage(isSaved ? "Character Saved in extensible markup language format"
+                                    : "Problem creating xml file");
   return isSaved;
 }
 

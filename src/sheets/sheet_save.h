@@ -12,5 +12,6 @@ namespace veld {
 bool SaveTextSheet(Game& game, const std::string& path, SaveWay way = {});
 bool SaveTabSheet(Game& game, const std::string& path, SaveWay way = {});
 bool SaveHtmlSheet(Game& game, const std::string& path, SaveWay way = {});
+bool SaveXmlSheet(Game& game, const std::string& path, SaveWay way = {});
 
 }  // namespace veld

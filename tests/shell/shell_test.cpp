@@ -95,7 +95,8 @@ TEST_F(ShellTest, TheExtensionAnywhereInThePathChoosesTheWriter) {
   EXPECT_EQ(FileText("old.vlf.txt").substr(0, 3), "4.5") << "the character file comes first";
   constexpr std::pair<const char*, std::string_view> kSheets[] = {
       {"hero.txt", "     "},    {"hero.TXT", "     "},           {"hero.csv", "Name \t "},
-      {"hero.CSV", "Name \t "}, {"hero.htm", "<!DOCTYPE html>"}, {"hero.html", "<!DOCTYPE html>"}};
+      {"hero.CSV", "Name \t "}, {"hero.htm", "<!DOCTYPE html>"}, {"hero.html", "<!DOCTYPE html>"},
+      {"hero.xml", "<?xml"},    {"hero.XML", "<?xml"}};
   for (const auto& [path, start] : kSheets) {
     SaveByExtension(*game, path);
     EXPECT_TRUE(FileText(path).starts_with(start)) << path;

@@ -1,0 +1,167 @@
+#include "sheets/sheet_facts.h"
+
+#include <algorithm>
+#include <initializer_list>
+
+#include "rules/skill_table.h"
+#include "rules/talent_table.h"
+#include "steps/skills/proficiency_purchase.h"
+#include "store/sheet_accessors.h"
+#include "text/format.h"
+#include "text/numbers.h"
+#include "text/search.h"
+#include "text/utf8.h"
+
+namespace veld {
+
+namespace {
+
+constexpr int kAssassinsFirstLevel = 3;  ///< an assassin has no thief's skills before
+
+// clang-format off
+constexpr std::array<ClassAbilityRow, kThiefAbilities> kThiefRows{{
+    // ability           short  none  chain  studded
+    {"Pick Pockets",    "PP",      5,   -20,     -25},
+    {"Open Locks",      "OL",      0,    -5,     -10},
+    {"Find Traps",      "FT",      0,    -5,     -10},
+    {"Remove Traps",    "RT",      0,    -5,     -10},
+    {"Move Silently",   "MS",     10,   -10,     -15},
+    {"Hide in Shadows", "HiS",     5,   -10,     -15},
+    {"Detect Noise",    "DN",      0,    -5,      -5},
+    {"Climb Walls",     "CW",     10,   -20,     -25},
+    {"Read Languages",  "RL",      0,     0,       0},
+}};
+struct BarbarianAbility {
+  ClassAbilityRow Row;
+  int CharacterSheet::*Base;
+};
+// The last has the short name of the first: a slip that readers of sheets are used to.
+constexpr BarbarianAbility kBarbarianRows[] = {
+    {{"Back Protection",              "Bck Prot",     0,   0,   0}, &CharacterSheet::BarbarianBackProtection},
+    {{"Detect Illusion",              "Det Ill",      0,   0,   0}, &CharacterSheet::BarbarianDetectIllusion},
+    {{"Hide in Natural Surroundings", "Hide in Nat",  5, -10, -15}, &CharacterSheet::BarbarianHide},
+    {{"Barbarian Tracking",           "Track",        0,   0,   0}, &CharacterSheet::BarbarianTracking},
+    {{"Climb Cliffs and Trees",       "Bck Prot",    10, -20, -25}, &CharacterSheet::BarbarianClimb},
+};
+// clang-format on
+
+/// The name of an item of a family, led by the family's name where the item does not say it.
+std::string ItemName(std::string_view family, std::string_view item) {
+  const std::string name = OneLine(TrimRight(item));
+  return Contains(name, family) ? name : Format("%s: %s", family, name);
+}
+
+std::vector<ClassAbility> ThiefAbilities(const CharacterSheet& sheet, std::initializer_list<std::size_t> abilities) {
+  std::vector<ClassAbility> held;
+  for (const std::size_t ability : abilities) {
+    held.push_back({&kThiefRows[ability], LevelSum(ThiefAbilityAt(sheet, ability))});
+  }
+  return held;
+}
+
+std::vector<ClassAbility> BarbarianAbilities(const CharacterSheet& sheet) {
+  std::vector<ClassAbility> held;
+  for (const BarbarianAbility& ability : kBarbarianRows) held.push_back({&ability.Row, sheet.*ability.Base});
+  return held;
+}
+
+}  // namespace
+
+std::string OneLine(std::string_view text) {
+  std::string line = DisplayText(text);
+  std::ranges::replace_if(
+      line, [](char c) { return c == '\t' || c == '\n' || c == '\r'; }, ' ');
+  return line;
+}
+
+std::string_view HitAdjustment(const HeldWeapon& held) {
+  const bool isMissile = held.Weapon->Kind == ProficiencyKind::Missile;
+  if (held.Mark == ProficiencyMark::Limited) return "-1";
+  if (held.Mark == ProficiencyMark::Specialized) return isMissile ? "+2" : "+1";
+  return held.Mark >= kMasteryMark && !isMissile ? "+2" : "";
+}
+
+std::string_view DamageAdjustment(const HeldWeapon& held) {
+  if (held.Weapon->Kind == ProficiencyKind::Missile) return "";
+  if (held.Mark == ProficiencyMark::Specialized) return "+2";
+  return held.Mark >= kMasteryMark ? "+3" : "";
+}
+
+std::string_view MarkName(int mark) {
+  if (mark == ProficiencyMark::Limited) return "Limited";
+  if (mark == ProficiencyMark::Proficient) return "Basic";
+  if (mark == ProficiencyMark::Specialized) return "Specialized";
+  return mark >= kMasteryMark ? "Mastery" : "";
+}
+
+std::array<int, 6> EncumbranceLimits(const CharacterSheet& s) {
+  std::array<int, 6> limits{0,
+                            s.WeightAllowanceLight,
+                            s.WeightAllowanceModerate,
+                            s.WeightAllowanceHeavy,
+                            s.WeightAllowanceSevere,
+                            s.MaxPressExtra};
+  for (std::size_t i = 1; i < limits.size(); ++i) limits[i] = AddSaturated(limits[i - 1], limits[i]);
+  return limits;
+}
+
+bool IsShownAsMage(const CharacterSheet& sheet) {
+  constexpr std::string_view kMages[] = {"Elementalist", "Blood Mage", "Painted Mage", "Wild Mage"};
+  const auto isNamed = [&](std::string_view name) { return Contains(sheet.ClassName, name); };
+  return sheet.IsMageClass == 1 || sheet.ClassName == "Battle Mage" || std::ranges::any_of(kMages, isNamed);
+}
+
+std::vector<HeldAbility> HeldTalents(const CharacterSheet& sheet) {
+  std::vector<HeldAbility> held;
+  for (std::size_t row = 0; row < kTalentRows; ++row) {
+    const std::string_view name = TrimRight(TalentTable()[row].Name);
+    const int count = sheet.TalentCounts[row];
+    if (count <= 0 || name.empty()) continue;
+    held.push_back({std::string(name), count, Contains(name, "Bonus") ? "x%i" : Contains(name, "Lucky") ? "d%i" : ""});
+  }
+  for (std::size_t family = 0; family < kDetailRows; ++family) {
+    const std::string_view name = TrimRight(TalentTable2()[family].Name);
+    for (std::size_t item = 0; item < kDetailRows; ++item) {
+      const int count = sheet.TalentDetailCounts[family][item];
+      if (count <= 0) continue;
+      held.push_back(
+          {ItemName(name, sheet.TalentDetailNames[family][item]), count, Contains(name, "Bonus") ? "x%i" : ""});
+    }
+  }
+  return held;
+}
+
+std::vector<HeldAbility> HeldSkills(const CharacterSheet& sheet) {
+  std::vector<HeldAbility> held;
+  for (std::size_t row = 0; row < kSkillRows; ++row) {
+    const std::string_view name = TrimRight(SkillTable()[row].Name);
+    if (sheet.SkillScores[row] > 0 && !name.empty()) held.push_back({std::string(name), sheet.SkillScores[row]});
+  }
+  for (std::size_t family = 0; family < kDetailRows; ++family) {
+    const std::string_view name = TrimRight(SkillTable2()[family].Name);
+    for (std::size_t item = 0; item < kDetailRows; ++item) {
+      const int score = sheet.SkillDetailCounts[family][item];
+      if (score > 0) held.push_back({ItemName(name, sheet.SkillDetailNames[family][item]), score});
+    }
+  }
+  return held;
+}
+
+std::vector<ClassAbilityList> ClassAbilityLists(const CharacterSheet& s) {
+  const auto allNine = {0UL, 1UL, 2UL, 3UL, 4UL, 5UL, 6UL, 7UL, 8UL};
+  std::vector<ClassAbilityList> lists;
+  if (Contains(s.ClassName, "Barbarian")) {
+    lists.push_back({"Barbarian", "Barbarian Abilities", BarbarianAbilities(s)});
+  }
+  if (s.ClassName == "Monk") lists.push_back({"Monk", "Monk Abilities", ThiefAbilities(s, {2, 4, 5, 6, 7})});
+  if (s.ClassName == "Bard") lists.push_back({"Bard", "Bard Abilities", ThiefAbilities(s, {0, 6, 7, 8})});
+  if (HasClass(s, ClassRow::Thief) || HasClass(s, ClassRow::BountyHunter)) {
+    lists.push_back({"Thief", "Thief Abilities", ThiefAbilities(s, allNine)});
+  }
+  if (s.ClassLevels[ClassRow::Assassin] >= kAssassinsFirstLevel) {
+    lists.push_back({"Assassin", "Assassin Abilities", ThiefAbilities(s, allNine)});
+  }
+  return lists;
+}
+
+}  // namespace veld

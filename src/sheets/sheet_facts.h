@@ -1,0 +1,85 @@
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "rules/proficiency_table.h"
+#include "store/character_sheet.h"
+
+namespace veld {
+
+// What more than one kind of sheet asks of a character.
+
+/// The first of the proficiency marks that count as Mastery on a sheet; see ProficiencyMark for the others.
+inline constexpr int kMasteryMark = 3;
+
+inline constexpr std::size_t kToursShown = 4;  ///< of NonCombatTourEvents: the fifth text is scratch
+
+/// A typed text as one line: tabs and line ends are blanks.
+std::string OneLine(std::string_view text);
+
+/// A proficiency held, with its mark.
+struct HeldWeapon {
+  const ProficiencyRecord* Weapon;
+  int Mark;
+};
+
+/// The adjustments that a mark brings with a weapon, empty for none: "-1" for a limited proficiency.
+std::string_view HitAdjustment(const HeldWeapon& held);
+std::string_view DamageAdjustment(const HeldWeapon& held);
+
+/// "Basic"; empty for a mark that is none.
+std::string_view MarkName(int mark);
+
+/// Pounds from which a burden is none, light, moderate, heavy and severe, and at last the most that can be carried.
+std::array<int, 6> EncumbranceLimits(const CharacterSheet& sheet);
+
+/// True if the sheets show what belongs to mages.
+bool IsShownAsMage(const CharacterSheet& sheet);
+
+/// A coin, as it is counted and told.
+struct Coin {
+  std::string_view Name;
+  int CharacterSheet::*Count;
+};
+inline constexpr std::array<Coin, 6> kCoins{{
+    {"Copper Pieces", &CharacterSheet::CopperPieces},
+    {"Silver Pieces", &CharacterSheet::SilverPieces},
+    {"Electrum Pieces", &CharacterSheet::ElectrumPieces},
+    {"Gold Pieces", &CharacterSheet::GoldPieces},
+    {"Hard Silver Pieces", &CharacterSheet::HardSilverPieces},
+    {"Platinum Pieces", &CharacterSheet::PlatinumPieces},
+}};
+
+/// A talent or skill held. A member of a family is led by the family's name where its own does not say it.
+struct HeldAbility {
+  std::string Name;
+  int Amount;                     ///< times taken; percent of mastery
+  std::string_view Measure = {};  ///< how the amount of a talent is told, "x%i"; empty where there is no measure of it
+};
+std::vector<HeldAbility> HeldTalents(const CharacterSheet& sheet);
+std::vector<HeldAbility> HeldSkills(const CharacterSheet& sheet);
+
+/// A percentile ability of a class, and what armor changes of it.
+struct ClassAbilityRow {
+  std::string_view Name;
+  std::string_view Short;
+  int NoArmor;
+  int ElvenChain;
+  int Studded;  ///< studded leather, ring mail, padded
+};
+struct ClassAbility {
+  const ClassAbilityRow* Row;
+  int Base;  ///< percent, without any thought of armor
+};
+struct ClassAbilityList {
+  std::string_view Calling;  ///< "Monk"
+  std::string_view Title;    ///< "Monk Abilities"
+  std::vector<ClassAbility> Abilities;
+};
+/// The lists of those callings that the character has.
+std::vector<ClassAbilityList> ClassAbilityLists(const CharacterSheet& sheet);
+
+}  // namespace veld
