@@ -10,7 +10,8 @@
 
 namespace veld {
 
-// What an element of the character's arrays means where its number doesn't tell.
+// What an element of the character's arrays means where its number doesn't tell. An `auto&` sheet is one to be changed
+// or one that is only read.
 
 inline bool HasClass(const CharacterSheet& sheet, int classRow) {
   return sheet.ClassLevels[static_cast<std::size_t>(classRow)] > 0;
@@ -30,18 +31,18 @@ inline void TakeAfterRace(CharacterSheet& sheet, std::string_view race) {
 }
 
 /// The native language is the first of the languages; its writing has its name, and a mastery only once it is learnt.
-inline FixedText<100>& NativeLanguageName(CharacterSheet& sheet) {
+inline auto& NativeLanguageName(auto& sheet) {
   return sheet.SkillDetailNames[SkillFamily::Language][0];
 }
-inline int& NativeLanguageMastery(CharacterSheet& sheet) {
+inline auto& NativeLanguageMastery(auto& sheet) {
   return sheet.SkillDetailCounts[SkillFamily::Language][0];
 }
-inline FixedText<100>& NativeWritingName(CharacterSheet& sheet) {
+inline auto& NativeWritingName(auto& sheet) {
   return sheet.SkillDetailNames[SkillFamily::ReadingWriting][0];
 }
 
 /// The hit points that a class brings before its first level.
-inline int& BaseHitPoints(CharacterSheet& sheet, int classRow) {
+inline auto& BaseHitPoints(auto& sheet, int classRow) {
   return sheet.LevelHitPoints[0][static_cast<std::size_t>(classRow)];
 }
 

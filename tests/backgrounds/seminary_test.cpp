@@ -4,33 +4,26 @@
 
 #include <algorithm>
 
-#include "rules/class_table.h"
 #include "rules/seminary_tables.h"
 #include "rules/skill_table.h"
 #include "rules/talent_table.h"
-#include "support/dice_player.h"
 #include "support/grant_names.h"
-#include "support/random_player.h"
+#include "youth.h"
 
 namespace veld {
 namespace {
 
 using testing::DicePlayer;
-using testing::RandomPlayer;
 
 constexpr int kBegin = 1;
 constexpr int kClose = 2;
-constexpr int kBuildingPoints = 50;
 constexpr int kFirstLine = 200;
 
 /// A cleric whose player throws the dice that the test tells.
 struct Priest {
   Priest() {
     CharacterSheet& sheet = game->sheet;
-    game->dice.LogMode = DiceLogMode::Off;
-    sheet.RaceName = "Human";
-    sheet.ClassName = "Cleric";
-    sheet.ClassLevels[1] = 1;
+    testing::MakeYouth(*game, 1);
     sheet.SocialClassIndex = 8;
     sheet.ProficiencySlots = 4;
     sheet.Charisma = {10, 50};
@@ -40,7 +33,6 @@ struct Priest {
       if (form.Name() == "DVABackground") {
         form.Press(kBegin);
         for (int line = 0; line < 8; ++line) lines.push_back(form.Text(kFirstLine + line));
-        bp = form.Text(kBuildingPoints);
         form.Press(kClose);
       } else {
         form.Press(kBegin);  // a pick: the first is taken
@@ -54,9 +46,8 @@ struct Priest {
   }
 
   DicePlayer player;
-  std::unique_ptr<Game> game = MakeGame(player);
+  std::unique_ptr<Game> game = testing::QuietGame(player);
   std::vector<std::string> lines;
-  std::string bp;
 };
 
 TEST(SeminaryTest, EachTableHandsOnToTheNext) {
@@ -111,16 +102,7 @@ TEST(SeminaryTest, ATotalOutsideATableKeepsTheResultAndTheForcedAreConscripted) 
   EXPECT_EQ(forced.game->sheet.Charisma, (AbilityScore{10, 50 - 120 - 100})) << "not carried into the whole score";
 }
 
-TEST(SeminaryTest, RefusalsAndABadEducationCostTheBPThatThereAre) {
-  Priest priest;
-  priest.game->run.BuildingPoints = 1.5F;
-  priest.player.ExpectQuestion("Table 2B: The Call - Keep your result of (55) Father/uncle was a cleric?",
-                               Answer::Closed);  // any answer but Yes refuses
-  priest.Play({55, 35, 50, 5, 5, 5, 5, 5, 5, 12, 13, 50, 20, 20});
-  EXPECT_EQ(priest.game->run.BuildingPoints, 0.5F);
-  EXPECT_EQ(priest.player.questions.size(), 1U);
-  EXPECT_EQ(priest.bp, "0") << "shown as a whole number";
-
+TEST(SeminaryTest, ABadEducationCostsTheBPThatThereAre) {
   Priest dull;
   dull.game->run.BuildingPoints = 2;
   dull.Play({55, 50, 5, 5, 5, 5, 5, 5, 12, 13, 25, 12, 20, 20});  // 2G: 25 - 15, "lose 3d4 BP"
@@ -155,27 +137,6 @@ TEST(SeminaryTest, SkillsComeWithTheMembersOfTheirSuiteOrTheLanguageOfTheReader)
   reader.game->sheet.SkillDetailNames[SkillFamily::ReadingWriting][3] = "Reading/Writing: Trollspeak";
   reader.Play({55, 50, 8, 12, 17, 4, 4, 5, 5, 5, 5, 12, 13, 50, 20, 20});
   EXPECT_GT(reader.game->sheet.SkillDetailCounts[SkillFamily::ReadingWriting][3], 0);
-}
-
-TEST(SeminaryTest, EndsWhateverIsPressed) {
-  for (std::uint32_t seed = 1; seed <= 150; ++seed) {
-    SCOPED_TRACE(seed);
-    RandomPlayer player(seed, 30);
-    auto game = MakeGame(player);
-    game->RuleSwitches[kRollYourOwnDice] = 0;
-    game->dice.LogMode = DiceLogMode::Off;
-    game->dice.RandomState = seed;
-    const std::size_t classRow = 1 + player.Pick(123);
-    game->sheet.ClassName = ClassTable()[classRow].Name;
-    game->sheet.ClassLevels[classRow] = 1;
-    game->sheet.SocialClassIndex = static_cast<int>(player.Pick(14));
-    game->run.BuildingPoints = static_cast<float>(player.Pick(60)) / 2;
-    game->run.CurrentStep = 10;
-    RunDVABackground(*game);
-    EXPECT_TRUE(player.stuckForm.empty()) << player.stuckForm;
-    EXPECT_FALSE(game->sheet.TheCall.Empty());
-    EXPECT_EQ(game->run.CurrentStep, 10);
-  }
 }
 
 }  // namespace

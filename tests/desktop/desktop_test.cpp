@@ -674,13 +674,6 @@ TEST_F(Desktop, PagesHoldAtOtherFontSizesAndSizesOfTheWindow) {
   QApplication::setFont(font);
 }
 
-TEST_F(Desktop, NumbersKeepTheDecimalPoint) {
-  char text[16];
-  std::snprintf(text, sizeof text, "%g", 1.5);
-  EXPECT_STREQ(text, "1.5");
-  EXPECT_EQ(QLocale().decimalPoint(), ".");
-}
-
 }  // namespace
 }  // namespace veld
 

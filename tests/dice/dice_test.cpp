@@ -8,24 +8,21 @@
 #include "dice/keep_roll.h"
 #include "dice/random.h"
 #include "rules/quirk_table.h"
-#include "support/scripted_platform.h"
+#include "support/game_test.h"
 #include "text/search.h"
 
 namespace veld {
 namespace {
 
 using testing::FileLines;
-using testing::ScriptedPlatform;
 using testing::TestFolder;
 
-constexpr int kEntry = 3000;
 constexpr int kOk = 1;
-constexpr int kRollForMeButton = 2;
 constexpr int kTurnThisOff = 3043;
 
-class DiceTest : public ::testing::Test {
+class DiceTest : public testing::GameTest<> {
  protected:
-  DiceTest() { game->RuleSwitches[kRollYourOwnDice] = 0; }
+  DiceTest() { game->dice.LogMode = DiceLogMode::EachLine; }
 
   void TypeDice() { game->RuleSwitches[kRollYourOwnDice] = 1; }
 
@@ -42,12 +39,7 @@ class DiceTest : public ::testing::Test {
     }
   }
 
-  void ExpectTyped(const char* number) {
-    platform.ExpectForm("GetDice", [number](Form& form) {
-      form.Type(kEntry, number);
-      form.PressDefault();
-    });
-  }
+  void ExpectTyped(const char* number) { platform.ExpectTyped("GetDice", number); }
 
   std::string LastLogLine() const {
     const auto lines = FileLines("dice.log");
@@ -55,8 +47,6 @@ class DiceTest : public ::testing::Test {
   }
 
   TestFolder folder;
-  ScriptedPlatform platform;
-  std::unique_ptr<Game> game = MakeGame(platform);
 };
 
 TEST_F(DiceTest, TheSourceIsTheKnownGenerator) {

@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <map>
 
-#include "support/scripted_platform.h"
+#include "support/game_test.h"
 
 namespace veld {
 namespace {
@@ -38,13 +38,11 @@ class StagePlayer : public ScriptedPlatform {
   }
 };
 
-class SequencerTest : public ::testing::Test {
+class SequencerTest : public testing::GameTest<StagePlayer> {
  protected:
   SequencerTest() {
     player.game = game.get();
     player.AnswerOthers(Answer::No);
-    game->RuleSwitches[kRollYourOwnDice] = 0;
-    game->dice.LogMode = DiceLogMode::Off;
     game->sheet.RaceName = "Human";
     game->sheet.Wisdom.Whole = 12;
   }
@@ -55,8 +53,6 @@ class SequencerTest : public ::testing::Test {
   }
 
   TestFolder folder;
-  StagePlayer player;
-  std::unique_ptr<Game> game = MakeGame(player);
 };
 
 TEST_F(SequencerTest, TheStagesFollowEachOtherToTheSaveQuestion) {

@@ -15,10 +15,8 @@
 #include "steps/classes/class_choice.h"
 #include "steps/race/step_three.h"
 #include "store/character_file.h"
-#include "store/side_files.h"
+#include "support/game_test.h"
 #include "support/random_player.h"
-#include "support/scripted_platform.h"
-#include "text/format.h"
 #include "text/search.h"
 
 namespace veld {
@@ -37,22 +35,6 @@ bool IsChain(std::string_view form) {
   return form.ends_with("ABackground");
 }
 
-/// Spreads a thief's points over the abilities.
-void Allot(Form& form) {
-  constexpr int kPoints = 150;
-  std::vector<int> entries;
-  for (const Control& control : form.Controls()) {
-    if (control.Template.Kind == ControlKind::Number) entries.push_back(control.Template.Id);
-  }
-  constexpr std::string_view kBefore = "You have ";
-  int left = std::atoi(form.Text(kPoints).substr(kBefore.size()).c_str());
-  for (int without = static_cast<int>(entries.size()); without > 0; --without) {
-    const int share = left / without;
-    form.Type(entries[static_cast<std::size_t>(without) - 1], Format("%i", share));
-    left -= share;
-  }
-}
-
 /// Raises no ability, takes whichever class there is and mostly wants the youths that it is offered. The rest is
 /// chance.
 class Youth : public RandomPlayer {
@@ -67,7 +49,7 @@ class Youth : public RandomPlayer {
     forms.emplace_back(name);
     form.Open();
     if (isClassChoice) form.Choose(kClassList, PickClass(form.Items(kClassList)));
-    if (isAllotment) Allot(form);
+    if (isAllotment) testing::SpreadPoints(form);
     form.Press(kOk);
     if (!form.IsClosed()) form.PressCloseBox();
     EXPECT_TRUE(form.IsClosed()) << name;
@@ -92,14 +74,9 @@ class Youth : public RandomPlayer {
 };
 constexpr int kMostPicks = 3;
 
-/// A game whose goods and spells are those that ship.
-std::unique_ptr<Game> ShippedGame(Platform& platform) {
-  static const std::string kGoods = FileText(std::string(VELD_DATA_DIR) + "/equip.vlb");
-  static const std::string kSpells = FileText(std::string(VELD_DATA_DIR) + "/spells.vld");
-  auto game = MakeGame(platform);
-  game->dice.LogMode = DiceLogMode::Off;
-  DecodeEquipment(kGoods, game->EquipmentTable);
-  DecodeSpells(kSpells, game->SpellTable);
+std::unique_ptr<Game> ShippedGame(Youth& player) {
+  auto game = testing::QuietGame(player);
+  testing::LoadShippedCatalogues(*game);
   return game;
 }
 
@@ -146,10 +123,10 @@ void ExpectPossible(const Game& game) {
   for (const int level : sheet.ClassLevels) EXPECT_TRUE(level >= 0 && level <= kHighestLevel);
 }
 
-void ExpectLoadsBackEqual(Game& game, Platform& platform) {
+void ExpectLoadsBackEqual(Game& game, Youth& player) {
   ASSERT_TRUE(SaveCharacterFile(game, "hero.vlf", {.Flush = false}));
   const std::string saved = FileText("hero.vlf");
-  const auto reader = ShippedGame(platform);
+  const auto reader = ShippedGame(player);
   ASSERT_TRUE(LoadCharacterFile(*reader, "hero.vlf"));
   EXPECT_EQ(EncodeCharacter(*reader), saved);
 }

@@ -1,14 +1,13 @@
 #include <gtest/gtest.h>
 
 #include <climits>
-#include <cstring>
 
 #include "referee/dice_expression.h"
 #include "referee/dice_package.h"
 #include "referee/dice_row.h"
 #include "referee/gm_dice_roller.h"
 #include "referee/monster_attack.h"
-#include "support/scripted_platform.h"
+#include "support/game_test.h"
 #include "text/format.h"
 #include "text/search.h"
 
@@ -18,9 +17,9 @@ namespace {
 using testing::FileLines;
 using testing::FileText;
 
-class DiceRollerTest : public ::testing::Test {
+class DiceRollerTest : public testing::GameTest<> {
  protected:
-  DiceRollerTest() { game->RuleSwitches[kRollYourOwnDice] = 0; }
+  DiceRollerTest() { game->dice.LogMode = DiceLogMode::EachLine; }
 
   /// Opens the roller and plays it; whatever the play leaves open is closed.
   void Open(const std::function<void(Form&)>& play) {
@@ -35,16 +34,6 @@ class DiceRollerTest : public ::testing::Test {
     form.Mark(160 + row, true);
     form.Type(110 + row, times);
     form.Type(100 + row, sides);
-  }
-  static void Choose(Form& form, std::string_view name) {
-    const auto& names = form.Items(3115);
-    form.Choose(3115, static_cast<int>(std::ranges::find(names, name) - names.begin()));
-  }
-  void AnswerName(const char* name) {
-    platform.ExpectForm("GetName", [name](Form& form) {
-      form.Type(3000, name);
-      form.Press(1);
-    });
   }
   /// The values of a row of one die that is rolled with many seeds; each must be right for its label.
   std::vector<int> Values(const DiceRow& dice, std::string_view label, std::uint32_t seed) {
@@ -61,8 +50,6 @@ class DiceRollerTest : public ::testing::Test {
   }
 
   testing::TestFolder folder;
-  testing::ScriptedPlatform platform;
-  std::unique_ptr<Game> game = MakeGame(platform);
   RowRoll roll;
 };
 
@@ -207,7 +194,7 @@ TEST_F(DiceRollerTest, RollsWhatIsIncludedAndTellsIt) {
     EXPECT_EQ(form.Items(3021), (std::vector<std::string>{" ( 3, 0, 1 ) = 4", "5d1+1 ( 6 ) = 6"}));
     form.Type(3062, "5d");
     form.Press(3063);
-    AnswerName("4");
+    platform.ExpectTyped("GetName", "4");
     form.Press(3050);
     ASSERT_EQ(form.Items(3021).size(), 3U);
     EXPECT_TRUE(form.Items(3021)[2].starts_with("Monster with 4 Hit Dice is rolling to hit getting a result of "));
@@ -230,16 +217,16 @@ TEST_F(DiceRollerTest, PackagesAreStoredSavedAndLoaded) {
     FillRow(form, 1, "4", "6");
     form.Mark(171, true);
     form.Mark(3006, true);
-    AnswerName("");
+    platform.ExpectTyped("GetName", "");
     form.Press(3046);
     EXPECT_TRUE(platform.Showed("without a name"));
     for (const char* name : {"beta", "Alpha /CL/", "beta"}) {
-      AnswerName(name);
+      platform.ExpectTyped("GetName", name);
       form.Press(3046);
     }
     EXPECT_EQ(form.Items(3115), (std::vector<std::string>{"Alpha /CL/", "beta"}));
     EXPECT_EQ(form.SelectedText(3115), "beta");
-    Choose(form, "Alpha /CL/");
+    testing::ChooseText(form, 3115, "Alpha /CL/");
     form.Press(3047);
     platform.ExpectSavePath("rolls.dice");
     form.Press(3061);
@@ -252,7 +239,7 @@ TEST_F(DiceRollerTest, PackagesAreStoredSavedAndLoaded) {
     EXPECT_TRUE(form.Items(3115).empty());
     platform.ExpectOpenPath("rolls.dice");
     form.Press(3060);
-    Choose(form, "beta");
+    testing::ChooseText(form, 3115, "beta");
     EXPECT_EQ(form.Text(111) + form.Text(101) + form.Text(110), "46");
     EXPECT_TRUE(form.IsChecked(161) && form.IsChecked(171) && form.IsChecked(3006) && !form.IsChecked(3007));
     testing::WriteText("short.dice", bytes.substr(1));
@@ -278,21 +265,14 @@ TEST_F(DiceRollerTest, PackagesAreStoredSavedAndLoaded) {
   EXPECT_EQ(StoreDiceRoll(*package, roll500), std::nullopt);
 }
 
-TEST_F(DiceRollerTest, ACharacterInTheMakingStaysAsItIs) {
-  game->sheet.Honor = 12;
-  game->run.BuildingPoints = 3;
+TEST_F(DiceRollerTest, TheDiceOfACharacterInTheMakingStayAsTheyAre) {
   game->dice.DiceLabel = "for the height";
   game->dice.RollContextText = "Roll for INT";
   game->dice.DiceEntryValue = 5;
-  const auto sheet = std::make_unique<CharacterSheet>(game->sheet);
-  const auto run = std::make_unique<GenerationRun>(game->run);
-  static_assert(std::is_trivially_copyable_v<CharacterSheet> && std::is_trivially_copyable_v<GenerationRun>);
   Open([&](Form& form) {
     FillRow(form, 0, "9", "6");
     form.Press(3043);
   });
-  EXPECT_EQ(std::memcmp(sheet.get(), &game->sheet, sizeof *sheet), 0);
-  EXPECT_EQ(std::memcmp(run.get(), &game->run, sizeof *run), 0);
   EXPECT_EQ(game->dice.DiceLabel, "for the height");
   EXPECT_EQ(game->dice.RollContextText, "Roll for INT");
   EXPECT_EQ(game->dice.DiceEntryValue, 5);

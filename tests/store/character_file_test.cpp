@@ -9,7 +9,7 @@
 #include <memory>
 
 #include "character_image.h"
-#include "support/scripted_platform.h"
+#include "support/game_test.h"
 
 namespace veld::testing {
 namespace {
@@ -213,11 +213,9 @@ TEST(HostileCharacterFile, AFileCutAtAnyByteReadsAsIfZerosFollowed) {
   }
 }
 
-class LoadedFile : public ::testing::Test {
+class LoadedFile : public GameTest<> {
  protected:
   TestFolder folder;
-  ScriptedPlatform platform;
-  std::unique_ptr<Game> game = MakeGame(platform);
 };
 
 TEST_F(LoadedFile, ReplacesTheCharacterAndTheRunButNotThePlayer) {

@@ -13,7 +13,7 @@
 #include "store/character_file.h"
 #include "store/log_file.h"
 #include "store/side_files.h"
-#include "support/scripted_platform.h"
+#include "support/game_test.h"
 
 namespace veld::testing {
 namespace {
@@ -60,11 +60,9 @@ class ReadOnlyFolder {
   bool wasRoot_;
 };
 
-class SafeFile : public ::testing::Test {
+class SafeFile : public GameTest<> {
  protected:
   TestFolder folder;
-  ScriptedPlatform platform;
-  std::unique_ptr<Game> game = MakeGame(platform);
 };
 
 TEST_F(SafeFile, ADiskThatIsFullAtAnyByteLeavesTheOldFileWhole) {
@@ -86,25 +84,6 @@ TEST_F(SafeFile, ADiskThatIsFullAtAnyByteLeavesTheOldFileWhole) {
   EXPECT_TRUE(FileText("a.vlf") == bytes);
 }
 
-TEST_F(SafeFile, SideFilesSurviveAFullDiskAtAnyByte) {
-  ASSERT_TRUE(SaveOptions(*game));
-  ASSERT_TRUE(SaveCustomEquipment(*game));
-  const std::string options = FileText("options.vlb");
-  game->RuleSwitches.fill(0);
-  game->CustomEquipmentTable[999].LegacyId = -1;
-  for (std::size_t room = 0; room < 84'000; room += room < 84 ? 1 : 97) {
-    if (room < 84) {
-      ASSERT_FALSE(SaveOptions(*game, {.DiskRoom = room, .Flush = false}));
-    }
-    ASSERT_FALSE(SaveCustomEquipment(*game, {.DiskRoom = room, .Flush = false}));
-  }
-  EXPECT_EQ(FileText("options.vlb"), options);
-  EXPECT_TRUE(FileText("cequip.vlb") == std::string(84'000, '\0'));
-  EXPECT_EQ(FilesHere(), 2u);
-  EXPECT_EQ(platform.messages.front(), "VELD: Problem Saving options.vlb file");
-  EXPECT_EQ(platform.messages.back(), "VELD: Problem Loading cequip.vlb file");
-}
-
 TEST_F(SafeFile, ARealFullDiskAndAReadOnlyFolderAreTold) {
   ASSERT_TRUE(SaveCharacterFile(*game, "a.vlf"));
   ASSERT_TRUE(SaveOptions(*game));
@@ -121,12 +100,14 @@ TEST_F(SafeFile, ARealFullDiskAndAReadOnlyFolderAreTold) {
     EXPECT_FALSE(SaveCharacterFile(*game, "a.vlf"));
     EXPECT_FALSE(SaveCharacterFile(*game, "b.vlf"));
     EXPECT_FALSE(SaveOptions(*game));
+    EXPECT_FALSE(SaveCustomEquipment(*game));
   }
   EXPECT_FALSE(SaveCharacterFile(*game, "nowhere/a.vlf"));
   EXPECT_FALSE(SaveCharacterFile(*game, "options.vlb/a.vlf"));
   EXPECT_FALSE(SaveCharacterFile(*game, ""));
   EXPECT_EQ(std::count(platform.messages.begin(), platform.messages.end(), "VELD: Problem Saving vlf 4.5 file"), 6);
   EXPECT_TRUE(platform.Showed("VELD: Problem Saving options.vlb file"));
+  EXPECT_TRUE(platform.Showed("VELD: Problem Loading cequip.vlb file"));
   EXPECT_TRUE(FileText("a.vlf") == old);
   EXPECT_EQ(FilesHere(), 2u);
 }

@@ -1,6 +1,5 @@
 #include "support/random_player.h"
 
-#include <algorithm>
 
 #include "text/format.h"
 

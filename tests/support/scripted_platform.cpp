@@ -8,6 +8,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "text/numbers.h"
 #include "text/search.h"
 
 namespace veld::testing {
@@ -19,6 +20,21 @@ void ChooseText(Form& form, int id, std::string_view text) {
   form.Choose(id, static_cast<int>(found - items.begin()));
 }
 
+void SpreadPoints(Form& form) {
+  constexpr int kPoints = 150;  // "You have 65 points to spend"
+  std::vector<int> entries;
+  for (const Control& control : form.Controls()) {
+    if (control.Template.Kind == ControlKind::Number) entries.push_back(control.Template.Id);
+  }
+  std::int64_t left = ReadNumberPrefix(std::string_view(form.Text(kPoints)).substr(9));
+  for (auto without = std::ssize(entries); without > 0; --without) {
+    const std::int64_t share = left / without;
+    form.Type(entries[static_cast<std::size_t>(without) - 1], std::to_string(share));
+    left -= share;
+  }
+  form.PressDefault();
+}
+
 ScriptedPlatform::~ScriptedPlatform() {
   if (!script_.empty() && !::testing::Test::HasFailure()) {
     ADD_FAILURE() << script_.size() << " steps of the script were never asked for; the next is '" << script_.front().text
@@ -28,6 +44,14 @@ ScriptedPlatform::~ScriptedPlatform() {
 
 void ScriptedPlatform::ExpectForm(std::string name, std::function<void(Form&)> act) {
   script_.push_back({Kind::Form, std::move(name), std::move(act)});
+}
+
+void ScriptedPlatform::ExpectTyped(std::string name, std::string text) {
+  constexpr int kEntry = 3000;
+  ExpectForm(std::move(name), [text = std::move(text)](Form& form) {
+    form.Type(kEntry, text);
+    form.PressDefault();
+  });
 }
 
 void ScriptedPlatform::ExpectQuestion(std::string part, Answer answer) {

@@ -21,6 +21,7 @@ class ScriptedPlatform : public Platform {
 
   // The script.
   void ExpectForm(std::string name, std::function<void(Form&)> act);  ///< act must close the form
+  void ExpectTyped(std::string name, std::string text);               ///< into the one field of a form, and Enter
   void ExpectQuestion(std::string part, Answer answer);               ///< part of its caption or text
   void ExpectOpenPath(std::string path);                              ///< empty: cancelled
   void ExpectSavePath(std::string path);
@@ -79,6 +80,9 @@ class ScriptedPlatform : public Platform {
 
 /// Chooses the line of a list or drop-down list that reads so; fails the test if there is none.
 void ChooseText(Form& form, int id, std::string_view text);
+
+/// Spreads the points that a page of a thief's abilities has over all of them, evenly, and enters them.
+void SpreadPoints(Form& form);
 
 /// A folder of its own for a test, made the working directory until the test ends and removed with all that is in it.
 class TestFolder {

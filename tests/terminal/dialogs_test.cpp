@@ -3,13 +3,11 @@
 
 #include <algorithm>
 #include <clocale>
-#include <fstream>
 #include <iostream>
 #include <set>
 
 #include "dice/dice.h"
 #include "editors/custom_item_editor.h"
-#include "generation/sequencer.h"
 #include "platform/ask_name.h"
 #include "pty_program.h"
 #include "referee/critical_hits.h"
@@ -33,9 +31,7 @@
 #include "steps/quirks/cherry_pick.h"
 #include "steps/quirks/free_quirk.h"
 #include "steps/quirks/quirks_and_flaws.h"
-#include "steps/race/step_three.h"
 #include "steps/skills/pick_dialogs.h"
-#include "steps/skills/skill_setup.h"
 #include "steps/skills/skills.h"
 #include "steps/skills/talents.h"
 #include "steps/skills/tattoo.h"

@@ -14,11 +14,8 @@ namespace veld::testing {
 inline constexpr const char* kEnterKey = "\r";
 inline constexpr const char* kEscapeKey = "\x1B";
 inline constexpr const char* kTabKey = "\t";
-inline constexpr const char* kBackTabKey = "\x1B[Z";
 inline constexpr const char* kDownKey = "\x1BOB";
-inline constexpr const char* kUpKey = "\x1BOA";
 inline constexpr const char* kRightKey = "\x1BOC";
-inline constexpr const char* kPageDownKey = "\x1B[6~";
 inline constexpr const char* kMainMenuKey = "\x1B[21~";  // F10
 inline constexpr const char* kPageMenuKey = "\x1B[20~";  // F9
 

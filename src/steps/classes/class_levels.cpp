@@ -9,6 +9,7 @@
 #include "rules/race_table.h"
 #include "steps/classes/allotments.h"
 #include "steps/classes/experience_ladder.h"
+#include "store/sheet_accessors.h"
 #include "text/numbers.h"
 
 namespace veld {
@@ -35,7 +36,7 @@ void RollLevelHitPoints(Game& game, int classRow, int level) {
   const auto roll = [&] {
     return RollHitPointDice(game, record.HitDieSides[Index(level)], record.HitDieCount[Index(level)]);
   };
-  int& base = sheet.LevelHitPoints[0][Index(classRow)];
+  int& base = BaseHitPoints(sheet, classRow);
   if (level == 1) base = record.Kicker;
   int points = roll();
   const auto has = [&](RaceTrait trait) { return HasTrait(sheet.RaceName, trait); };

@@ -2,14 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include "steps/race/race_choice.h"
-#include "support/scripted_platform.h"
+#include "support/game_test.h"
 #include "text/format.h"
 
 namespace veld {
 namespace {
 
-using testing::ScriptedPlatform;
 
 constexpr int kOk = 1;
 constexpr int kPointsText = 150;
@@ -21,7 +19,7 @@ constexpr int kAssassin = 17;
 constexpr int kBard = 18;
 constexpr int kBountyHunter = 60;
 
-class AllotmentTest : public ::testing::Test {
+class AllotmentTest : public testing::GameTest<> {
  protected:
   AllotmentTest() {
     game->sheet.RaceName = "Human";
@@ -41,9 +39,6 @@ class AllotmentTest : public ::testing::Test {
     }
     form.Press(kOk);
   }
-
-  ScriptedPlatform platform;
-  std::unique_ptr<Game> game = MakeGame(platform);
 };
 
 TEST_F(AllotmentTest, AThiefPlacesExactlyHisPointsWithinTheLimit) {

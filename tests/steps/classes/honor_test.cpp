@@ -3,12 +3,12 @@
 #include <gtest/gtest.h>
 
 #include "rules/honor_tables.h"
-#include "support/scripted_platform.h"
+#include "support/game_test.h"
 
 namespace veld {
 namespace {
 
-class HonorTest : public ::testing::Test {
+class HonorTest : public testing::GameTest<> {
  protected:
   HonorTest() {
     for (int ability = 0; ability < kAbilityCount; ++ability) AbilityAt(game->sheet, ability) = {11, 50};
@@ -22,9 +22,6 @@ class HonorTest : public ::testing::Test {
     EXPECT_EQ(game->sheet.Honor, honor);
     EXPECT_EQ(game->run.BuildingPoints - before, bp) << honor;
   }
-
-  testing::ScriptedPlatform platform;
-  std::unique_ptr<Game> game = MakeGame(platform);
 };
 
 TEST_F(HonorTest, BirthHeritageCharismaAndYouthMakeTheStartingHonor) {
@@ -93,13 +90,6 @@ TEST(HonorTables, EveryLevelRisesToItsPeakAndFallsToNone) {
   }
   EXPECT_EQ(HonorDiceOf(300, 98), HonorDiceOf(300, 20));
   EXPECT_EQ(HonorDiceOf(16, -3), HonorDiceOf(16, 1));
-}
-
-TEST(HonorTables, TheBandsBehindThePeakMoveUpWithTheLevel) {
-  EXPECT_EQ(HonorDiceOf(140, 13), (HonorDice{20, 0}));
-  EXPECT_EQ(HonorDiceOf(141, 13), (HonorDice{12, 2}));
-  EXPECT_EQ(HonorDiceOf(400, 20), (HonorDice{3, 0}));
-  EXPECT_EQ(HonorDiceOf(401, 20), HonorDice{});
 }
 
 }  // namespace

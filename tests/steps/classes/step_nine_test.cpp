@@ -8,14 +8,13 @@
 #include "steps/classes/class_choice.h"
 #include "steps/classes/take_after.h"
 #include "steps/race/race_choice.h"
-#include "support/scripted_platform.h"
+#include "support/game_test.h"
 #include "text/search.h"
 
 namespace veld {
 namespace {
 
 using testing::ChooseText;
-using testing::ScriptedPlatform;
 
 constexpr int kOk = 1;
 constexpr int kAbort = 2;
@@ -28,11 +27,9 @@ constexpr int kCavalier = 6;
 constexpr int kBattleMage = 13;
 constexpr int kGladiator = 61;
 
-class StepNineTest : public ::testing::Test {
+class StepNineTest : public testing::GameTest<> {
  protected:
   StepNineTest() {
-    game->RuleSwitches[kRollYourOwnDice] = 0;
-    game->dice.LogMode = DiceLogMode::Off;
     for (int ability = 0; ability < kAbilityCount; ++ability) AbilityAt(game->sheet, ability) = {18, 50};
     game->sheet.SocialClassIndex = 12;
     BecomeRace("Human");
@@ -45,22 +42,14 @@ class StepNineTest : public ::testing::Test {
     BindRaceRow(*game);
   }
 
-  void Play(std::function<void(Form&)> act) {
-    platform.ExpectForm("StepNine", std::move(act));
-    RunStepNine(*game);
-  }
-
   bool Offers(int classRow) const { return IsClassOffered(*game, classRow); }
   bool Explains(int classRow, std::string_view part) const {
     return Contains(WhyClassIsMissing(*game, classRow), part);
   }
-
-  ScriptedPlatform platform;
-  std::unique_ptr<Game> game = MakeGame(platform);
 };
 
 TEST_F(StepNineTest, AChangeOfMindAddsUpNoGifts) {
-  Play([&](Form& form) {
+  Play("StepNine", RunStepNine, [&](Form& form) {
     EXPECT_EQ(game->run.CurrentStep, 0);
     form.Press(kOk);
     EXPECT_TRUE(platform.Showed("You must pick a class"));
@@ -75,17 +64,6 @@ TEST_F(StepNineTest, AChangeOfMindAddsUpNoGifts) {
   });
   EXPECT_EQ(game->run.CurrentStep, 10);
   EXPECT_EQ(game->sheet.LevelText, "1");
-}
-
-TEST_F(StepNineTest, AMultiClassHoldsALevelInEach) {
-  BecomeRace("Elf, Grey");
-  Play([&](Form& form) {
-    ChooseText(form, kClassList, "Fighter/Magic-User");
-    form.Press(kOk);
-  });
-  EXPECT_EQ(game->sheet.LevelText, "1/1");
-  EXPECT_EQ(game->sheet.FreeWeaponProficiencySlots, 0) << "only a plain fighter has the free step";
-  EXPECT_EQ(game->run.SpellListIndex, 36);
 }
 
 TEST_F(StepNineTest, BirthBooksAndRaceDecideWhatIsOffered) {
@@ -115,7 +93,7 @@ TEST_F(StepNineTest, BirthBooksAndRaceDecideWhatIsOffered) {
 
 TEST_F(StepNineTest, AFlawOfAnAlmanacLeavesItsGroupForGood) {
   game->run.UsesThiefBackground = 1;
-  Play([&](Form& form) {
+  Play("StepNine", RunStepNine, [&](Form& form) {
     for (const std::string& name : form.Items(kClassList)) {
       EXPECT_EQ(ClassTable()[static_cast<std::size_t>(FindClassRow(name))].IsThief, 1) << name;
     }
@@ -143,7 +121,7 @@ TEST_F(StepNineTest, OnlyThePreviewOfStepEightCountsCharismasChangeOfComeliness)
   game->run.CurrentStep = 8;
   EXPECT_TRUE(Offers(kCavalier)) << "a Charisma of 18 adds 3";
   EXPECT_EQ(game->sheet.Comeliness.Whole, 8);
-  Play([&](Form& form) {
+  Play("StepNine", RunStepNine, [&](Form& form) {
     EXPECT_EQ(std::ranges::count(form.Items(kClassList), "Cavalier"), 0);
     form.PressCloseBox();
   });
@@ -169,31 +147,18 @@ TEST_F(StepNineTest, EveryClassIsOfferedOrExplained) {
   EXPECT_FALSE(IsClassOffered(*game, kClassRows));
 }
 
-TEST_F(StepNineTest, AWindowThatTakesNoClassesIsTold) {
-  static constexpr ControlTemplate kButton[] = {ButtonAt(0, 0, kOk, "OK")};
-  static constexpr FormTemplate kOther{"Other", "Other", kButton};
-  Form form(kOther);
-  game->run.CurrentStep = 0;
-  FillClassBox(*game, form);
-  EXPECT_TRUE(platform.Showed("FillClassBox: There was a problem in function FillListBox. "));
-  game->run.CurrentStep = 9;
-  FillClassBox(*game, form);
-  EXPECT_TRUE(platform.Showed("FillClassBox: Adding Fighter"));
-}
-
 TEST_F(StepNineTest, TakingAfterARaceTakesOverItsClasses) {
   game->run.BuildingPoints = 30.5F;
   BecomeRace("Half-elf");
   game->sheet.QuirkCounts[76] = 1;
   ASSERT_FALSE(Explains(5, "Wisdom"));
   ASSERT_EQ(game->run.ClassAllowed[15], 0);
-  platform.ExpectForm("TakeAfter", [&](Form& form) {
+  Play("TakeAfter", RunTakeAfter, [&](Form& form) {
     EXPECT_EQ(form.Title(), "Do you wish to take the Take After Talent for 30 BP?");
     EXPECT_EQ(form.Items(kTakeAfterRaces).size(), 6U);
     EXPECT_EQ(form.SelectedText(kTakeAfterRaces), "Human");
     form.Press(1);
   });
-  RunTakeAfter(*game);
   EXPECT_EQ(game->sheet.TalentDetailNames[2][0], "Human");
   EXPECT_EQ(game->sheet.TalentDetailCounts[2][0], 1);
   EXPECT_EQ(game->run.BuildingPoints, 0.5F);
@@ -202,8 +167,7 @@ TEST_F(StepNineTest, TakingAfterARaceTakesOverItsClasses) {
 
   const GenerationRun before = game->run;
   BecomeRace("Gnomeling");
-  platform.ExpectForm("TakeAfter", [](Form& form) { form.PressCloseBox(); });
-  RunTakeAfter(*game);
+  Play("TakeAfter", RunTakeAfter, [](Form& form) { form.PressCloseBox(); });
   EXPECT_EQ(game->run.BuildingPoints, before.BuildingPoints);
   BecomeRace("Human");
   RunTakeAfter(*game);  // nobody to take after: no dialog

@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <map>
 #include <numeric>
-#include <random>
 #include <set>
 #include <tuple>
 
@@ -15,8 +14,8 @@
 #include "rules/race_table.h"
 #include "steps/family/prior_gates.h"
 #include "steps/family/priors.h"
-#include "support/dice_player.h"
-#include "text/search.h"
+#include "support/game_test.h"
+#include "support/random_player.h"
 
 namespace veld {
 namespace {
@@ -26,10 +25,9 @@ constexpr int kAbort = 2;
 constexpr int kNext = 27;
 constexpr int kFirstButton = 6078;
 
-class StepSixTest : public ::testing::Test {
+class StepSixTest : public testing::GameTest<testing::DicePlayer> {
  protected:
   StepSixTest() {
-    game->dice.LogMode = DiceLogMode::Off;
     game->sheet.RaceName = "Human";
     game->sheet.Gender = "Male";
     gates = OpenPriors(*game);
@@ -59,9 +57,6 @@ class StepSixTest : public ::testing::Test {
 
   float& BP() { return game->run.BuildingPoints; }
 
-  testing::DicePlayer player;
-  std::unique_ptr<Game> game = MakeGame(player);
-  CharacterSheet& sheet = game->sheet;
   PriorGates gates{};
 };
 
@@ -103,19 +98,6 @@ TEST_F(StepSixTest, APressOfHeightFreesTheWeightEvenWithoutBP) {
   EXPECT_EQ(sheet.WeightLbs, 0);
   Press(kWeight);
   EXPECT_GT(sheet.WeightLbs, weight);
-}
-
-TEST_F(StepSixTest, ARaceTheTablesDoNotFindGetsThroughAllTheSame) {
-  sheet.RaceName = "Darkmen";
-  sheet.Gender = "Female";
-  for (const Prior prior : {kStartingAge, kHandedness, kHeight, kWeight}) {
-    EXPECT_EQ(NextPrior(*game, gates), prior);
-    Press(prior, prior == kHandedness ? std::initializer_list<int>{50} : std::initializer_list<int>{});
-  }
-  EXPECT_EQ(sheet.Age, 0);
-  EXPECT_EQ(sheet.HeightInches, 0);
-  EXPECT_EQ(sheet.WeightLbs, 999);
-  EXPECT_EQ(NextPrior(*game, gates), kSocialClass);
 }
 
 TEST_F(StepSixTest, TheModifiersOfTheRaceAreAddedToTheDiceAndASlaveIsRolledAgainBehindADieThatIsThrownAway) {
@@ -278,15 +260,13 @@ TEST_F(StepSixTest, TheLogNamesTheFirstRaceWhereItsSearchStops) {
   const testing::TestFolder folder;
   game->RuleSwitches[kRollYourOwnDice] = 0;
   game->dice.LogMode = DiceLogMode::EachLine;
-  GenerateAge(*game);
   GenerateHandedness(*game);
   GenerateFamilyHeritage(*game);
   const auto lines = testing::FileLines("dice.log");
-  ASSERT_EQ(lines.size(), 3U);
-  EXPECT_TRUE(lines[0].starts_with("Generate Age: Human, Male, 1d")) << lines[0];
-  EXPECT_TRUE(lines[1].starts_with("Generate Handeness: " + RaceListText(0) + ", 1d100. VELD has rolled: "))
-      << lines[1];
-  EXPECT_TRUE(lines[2].starts_with("Generate Family Heritage: Human, Male, 1d100.")) << lines[2];
+  ASSERT_EQ(lines.size(), 2U);
+  EXPECT_TRUE(lines[0].starts_with("Generate Handeness: " + RaceListText(0) + ", 1d100. VELD has rolled: "))
+      << lines[0];
+  EXPECT_TRUE(lines[1].starts_with("Generate Family Heritage: Human, Male, 1d100.")) << lines[1];
 }
 
 /// The button that the dialog names as next.
@@ -375,7 +355,6 @@ bool IsComplete(const PriorState& state) {
 class PriorWalk {
  public:
   PriorWalk(std::string_view race, std::string_view gender) {
-    game->dice.LogMode = DiceLogMode::Off;
     game->sheet.RaceName = race;
     game->sheet.Gender = gender;
     player.thrower = [this](int sides, int count) { return NextDie(sides, count); };
@@ -472,7 +451,7 @@ class PriorWalk {
   }
 
   testing::DicePlayer player;
-  std::unique_ptr<Game> game = MakeGame(player);
+  std::unique_ptr<Game> game = testing::QuietGame(player);
   std::vector<PriorState> states;
   std::map<PriorState, std::size_t> numbers;
   std::set<std::pair<std::size_t, std::size_t>> freeSteps;
@@ -489,38 +468,19 @@ TEST(StepSixGates, TheEndCanBeReachedFromEveryStateWithoutBP) {
   }
 }
 
-/// Presses buttons of a dialog at random until it closes.
-void PlayAtRandom(Form& form, std::mt19937& random) {
-  std::vector<ControlTemplate> buttons;
-  for (const Control& control : form.Controls()) {
-    if (control.Template.Kind == ControlKind::Button) buttons.push_back(control.Template);
-  }
-  for (int press = 0; press < 400 && !form.IsClosed(); ++press) {
-    const ControlTemplate& button = buttons[random() % buttons.size()];
-    if (button.Role == ButtonRole::Cancel && random() % 20 != 0) continue;
-    form.Press(button.Id);
-    if (!form.IsClosed() && random() % 200 == 0) form.onCommand(static_cast<int>(random() % 7000));
-  }
-}
-
 TEST(StepSixAtRandom, NothingImpossibleComesOut) {
-  testing::DicePlayer player;
-  const auto game = MakeGame(player);
   int finished = 0;
   for (std::uint32_t seed = 0; seed < 400; ++seed) {
-    std::mt19937 random(seed);
-    player.now = seed;
-    ResetCharacter(*game);
-    game->RuleSwitches[kRollYourOwnDice] = 0;
-    game->dice.LogMode = DiceLogMode::Off;
+    testing::RandomPlayer player(seed);
+    const auto game = testing::QuietGame(player);
+    game->dice.RandomState = seed;
     game->sheet.RaceName = seed % 3 ? "Half-orc" : "Elf, Wood";
-    game->run.LegitimacyModifier = static_cast<int>(random() % 80);
+    game->run.LegitimacyModifier = static_cast<int>(player.Pick(80));
     game->run.CurrentStep = 3;
-    game->run.BuildingPoints = static_cast<float>(random() % 20);
-    player.AnswerOthers(seed % 2 ? Answer::No : Answer::Yes);
-    player.dialog = [&](Form& form) { PlayAtRandom(form, random); };
+    game->run.BuildingPoints = static_cast<float>(player.Pick(20));
     RunStepSix(*game);
     const CharacterSheet& sheet = game->sheet;
+    ASSERT_EQ(player.stuckForm, "") << seed;
     EXPECT_GE(game->run.BuildingPoints, 0) << seed;
     ASSERT_TRUE(sheet.MotherPresence >= -1 && sheet.MotherPresence <= 2 && sheet.FatherPresence >= -1 &&
                 sheet.FatherPresence <= 2)

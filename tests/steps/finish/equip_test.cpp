@@ -6,15 +6,14 @@
 
 #include "dice/random.h"
 #include "steps/finish/equipment_purchase.h"
+#include "support/game_test.h"
 #include "support/random_player.h"
-#include "support/scripted_platform.h"
 #include "text/format.h"
 
 namespace veld {
 namespace {
 
 using testing::RandomPlayer;
-using testing::ScriptedPlatform;
 
 constexpr int kOk = 1;
 constexpr int kCategories = 3021;
@@ -49,7 +48,7 @@ void StockMarket(Game& game) {
   game.CustomEquipmentTable[2] = Good("Grandfather's sword", kWeapons, 40, 0, 0, 6);
 }
 
-class EquipTest : public ::testing::Test {
+class EquipTest : public testing::GameTest<> {
  protected:
   EquipTest() { StockMarket(*game); }
 
@@ -58,13 +57,9 @@ class EquipTest : public ::testing::Test {
     TradeItem(*game, count);
   }
   std::array<int, 6> Coins() const {
-    const CharacterSheet& sheet = game->sheet;
     return {sheet.PlatinumPieces, sheet.HardSilverPieces, sheet.GoldPieces,
             sheet.ElectrumPieces, sheet.SilverPieces,     sheet.CopperPieces};
   }
-
-  ScriptedPlatform platform;
-  std::unique_ptr<Game> game = MakeGame(platform);
 };
 
 TEST_F(EquipTest, APurchaseGoesThroughWithJustTheFunds) {
@@ -128,7 +123,6 @@ void CountOutChange(CharacterSheet& sheet) {
 TEST_F(EquipTest, ChangeIsWhatAMerchantCountsOut) {
   DiceState dice;
   dice.RandomState = 8;
-  CharacterSheet& sheet = game->sheet;
   const auto fill = [&](const std::array<int, 6>& coins) {
     sheet.PlatinumPieces = coins[0];
     sheet.HardSilverPieces = coins[1];
@@ -166,7 +160,7 @@ TEST_F(EquipTest, WhatWalksIsNotCarried) {
 
 TEST_F(EquipTest, TheDialogShowsPricesAndPurse) {
   game->sheet.GoldPieces = 2;
-  platform.ExpectForm("Equip", [&](Form& form) {
+  Play("Equip", RunEquip, [&](Form& form) {
     EXPECT_EQ(form.Items(kCategories).size(), 21U);
     EXPECT_TRUE(form.Items(kGoods).empty());
     form.Press(kAdd);  // nothing selected
@@ -194,13 +188,12 @@ TEST_F(EquipTest, TheDialogShowsPricesAndPurse) {
     EXPECT_EQ(form.Items(kGoods), (std::vector<std::string>{"Mule"}));
     form.Press(kOk);
   });
-  RunEquip(*game);
   EXPECT_EQ(PurseWorth(game->sheet), 200);
   EXPECT_EQ(game->EquipmentTable[1].Quantity, 0);
 }
 
 TEST_F(EquipTest, TheEditorGivesGoodsFreeOfCharge) {
-  platform.ExpectForm("EditEquip", [&](Form& form) {
+  Play("EditEquip", RunEditEquip, [&](Form& form) {
     form.Type(kSearch, "Mule");
     form.Press(kAdd);
     EXPECT_TRUE(platform.Showed("You lack sufficient funds"));
@@ -212,7 +205,6 @@ TEST_F(EquipTest, TheEditorGivesGoodsFreeOfCharge) {
     EXPECT_EQ(form.Items(kOwned), (std::vector<std::string>{"Mule"}));
     form.Press(kOk);
   });
-  RunEditEquip(*game);
   EXPECT_EQ(PurseWorth(game->sheet), 0);
 }
 

@@ -5,8 +5,8 @@
 #include <algorithm>
 
 #include "rules/race_table.h"
+#include "support/game_test.h"
 #include "support/random_player.h"
-#include "support/scripted_platform.h"
 #include "text/search.h"
 
 namespace veld {
@@ -14,12 +14,10 @@ namespace {
 
 using testing::ChooseText;
 using testing::RandomPlayer;
-using testing::ScriptedPlatform;
 
 constexpr int kClose = 1;
 constexpr int kBuildingPoints = 25;
 constexpr int kPrice = 90;
-constexpr int kPage = 95;
 constexpr int kOffered = 3024;
 constexpr int kHeld = 3025;
 constexpr int kSearch = 3026;
@@ -39,7 +37,7 @@ std::vector<std::string> TextsOf(const std::vector<TalentLine>& lines) {
   return texts;
 }
 
-class TalentsTest : public ::testing::Test {
+class TalentsTest : public testing::GameTest<> {
  protected:
   TalentsTest() {
     game->sheet.RaceName = "Human";
@@ -59,9 +57,6 @@ class TalentsTest : public ::testing::Test {
   int& Count(std::size_t row) { return game->sheet.TalentCounts[row]; }
   int& ItemCount(std::size_t family, std::size_t item) { return game->sheet.TalentDetailCounts[family][item]; }
   std::string_view Item(std::size_t family, std::size_t item) { return game->sheet.TalentDetailNames[family][item]; }
-
-  ScriptedPlatform platform;
-  std::unique_ptr<Game> game = MakeGame(platform);
 };
 
 TEST_F(TalentsTest, OnlyBonusTalentsAreTakenAgain) {
@@ -74,17 +69,6 @@ TEST_F(TalentsTest, OnlyBonusTalentsAreTakenAgain) {
   EXPECT_TRUE(ChangeTalent(*game, "Endurance", -1, 5));
   EXPECT_FALSE(ChangeTalent(*game, "Endurance", -1, 5)) << "it is no longer held";
   EXPECT_EQ(BP(), 30);
-}
-
-TEST_F(TalentsTest, WhatIsDearerThanTheBPIsRefused) {
-  BP() = 4.5F;
-  EXPECT_FALSE(ChangeTalent(*game, "Endurance", 1, 5));
-  EXPECT_FALSE(ChangeTalent(*game, "Attack Bonus", 1, 5));
-  BP() = 5;
-  EXPECT_TRUE(ChangeTalent(*game, "Endurance", 1, 5));
-  EXPECT_EQ(BP(), 0);
-  EXPECT_TRUE(ChangeTalent(*game, "Sixth Sense", 1)) << "a grant";
-  EXPECT_EQ(BP(), 0);
 }
 
 TEST_F(TalentsTest, NamesAreFoundAsCallersWriteThem) {
@@ -149,14 +133,13 @@ TEST_F(TalentsTest, ItemsGoBehindAllOthersAndAFullFamilyIsRefusedUnasked) {
 
 TEST_F(TalentsTest, TheRaceGivesWhatCanNotBeRemoved) {
   game->sheet.RaceName = "Half-ogre";
-  platform.ExpectForm("Talents", [&](Form& form) {
+  Play("Talents", RunTalents, [&](Form& form) {
     EXPECT_EQ(std::ranges::count(form.Items(kOffered), "Dense Skin"), 0);
     ChooseText(form, kHeld, "Dense Skin");
     EXPECT_EQ(form.Text(kNote), "Your race has this talent for nothing.");
     form.Press(kRemove);
     form.Press(kClose);
   });
-  RunTalents(*game);
   EXPECT_EQ(Count(kDenseSkin), -1);
   EXPECT_EQ(platform.messages, std::vector<std::string>{"VELD: You cannot remove a Talent granted due to your race."});
 
@@ -184,7 +167,6 @@ TEST_F(TalentsTest, ThePageTellsPriceAndRefusalBeforeTheyAreMet) {
     EXPECT_EQ(form.Items(kOffered), std::vector<std::string>{"Bow Bonus"});
     ChooseText(form, kOffered, "Bow Bonus");
     EXPECT_EQ(form.Text(kPrice), "3 BP");
-    EXPECT_EQ(form.Text(kPage), "ADC pg 337");
     form.Press(kAdd);
     form.Press(kAdd);
     EXPECT_EQ(form.SelectedText(kOffered), "Bow Bonus") << "the selection stays";

@@ -6,8 +6,8 @@
 
 #include "rules/class_table.h"
 #include "rules/proficiency_table.h"
+#include "support/game_test.h"
 #include "support/random_player.h"
-#include "support/scripted_platform.h"
 #include "text/search.h"
 
 namespace veld {
@@ -15,7 +15,6 @@ namespace {
 
 using testing::ChooseText;
 using testing::RandomPlayer;
-using testing::ScriptedPlatform;
 using Lines = std::vector<std::string>;
 
 constexpr int kClose = 1;
@@ -53,7 +52,7 @@ Lines TextsOf(const std::vector<ProficiencyLine>& lines) {
   return texts;
 }
 
-class WeaponProfTest : public ::testing::Test {
+class WeaponProfTest : public testing::GameTest<> {
  protected:
   WeaponProfTest() {
     Slots() = 4;
@@ -73,9 +72,6 @@ class WeaponProfTest : public ::testing::Test {
   int& Level(int row) { return game->sheet.ProficiencyLevels[static_cast<std::size_t>(row)]; }
   int& ClassLevel(std::size_t row) { return game->sheet.ClassLevels[row]; }
   int& Steps() { return game->sheet.FreeWeaponProficiencySlots; }
-
-  ScriptedPlatform platform;
-  std::unique_ptr<Game> game = MakeGame(platform);
 };
 
 TEST_F(WeaponProfTest, AProficiencyCostsASlotAndABP) {
@@ -266,7 +262,7 @@ TEST_F(WeaponProfTest, MasteryIsForFightersOfTheFifthLevel) {
 TEST_F(WeaponProfTest, ThePageIsNotLeftWhileSlotsAreOverdrawnUnlessNothingIsLeftToGive) {
   ASSERT_TRUE(Add("Dagger") && Add("Knife"));
   Slots() = 1;
-  platform.ExpectForm("WeaponProf", [&](Form& form) {
+  Play("WeaponProf", RunWeaponProf, [&](Form& form) {
     EXPECT_EQ(form.Text(kSlotsLeft), "-1");
     form.Press(kClose);
     form.PressCloseBox();
@@ -277,12 +273,10 @@ TEST_F(WeaponProfTest, ThePageIsNotLeftWhileSlotsAreOverdrawnUnlessNothingIsLeft
     form.Press(kClose);
     EXPECT_TRUE(form.IsClosed());
   });
-  RunWeaponProf(*game);
 
   ASSERT_TRUE(Remove("Dagger"));
   Used() = 5;
-  platform.ExpectForm("WeaponProf", [](Form& form) { form.Press(kClose); });
-  RunWeaponProf(*game);
+  Play("WeaponProf", RunWeaponProf, [](Form& form) { form.Press(kClose); });
 }
 
 TEST_F(WeaponProfTest, ThePageTakesSpecializesAndMasters) {
@@ -340,13 +334,12 @@ TEST_F(WeaponProfTest, TheListsFollowTheClassesAndBooks) {
   EXPECT_EQ(inClass(), expected);
   ClassLevel(kFighter) = 1;
   EXPECT_EQ(inClass().back(), "Quick Draw");
-  platform.ExpectForm("WeaponProf", [&](Form& form) {
+  Play("WeaponProf", RunWeaponProf, [&](Form& form) {
     EXPECT_EQ(form.Items(kOffered), inClass());
     form.Mark(kAllMode, true);
     EXPECT_EQ(form.Items(kOffered).size(), all);
     form.Press(kClose);
   });
-  RunWeaponProf(*game);
 }
 
 TEST(WeaponProfRandomTest, WhatIsHeldWasPaid) {

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <filesystem>
 
 #include "rules/named_rows.h"
 #include "rules/spell_book_tables.h"
@@ -9,8 +8,7 @@
 #include "steps/spells/spell_books.h"
 #include "steps/spells/spell_dealing.h"
 #include "steps/spells/spell_selection.h"
-#include "store/side_files.h"
-#include "support/scripted_platform.h"
+#include "support/game_test.h"
 #include "text/format.h"
 #include "text/search.h"
 
@@ -18,7 +16,7 @@ namespace veld {
 namespace {
 
 using testing::FileText;
-using testing::ScriptedPlatform;
+using testing::LoadShippedCatalogues;
 using testing::TestFolder;
 
 constexpr int kMasterCombo = 3115;
@@ -27,13 +25,9 @@ constexpr int kOwnList = 3022;
 constexpr int kAdd = 4001;
 constexpr int kRemove = 4002;
 
-class SpellsTest : public ::testing::Test {
+class SpellsTest : public testing::GameTest<> {
  protected:
-  SpellsTest() {
-    game->RuleSwitches[kRollYourOwnDice] = 0;
-    game->dice.LogMode = DiceLogMode::Off;
-    DecodeSpells(FileText(std::string(VELD_DATA_DIR) + "/spells.vld"), game->SpellTable);
-  }
+  SpellsTest() { LoadShippedCatalogues(*game); }
 
   void Mage(const char* className, int classRow, int starting) {
     game->sheet.ClassName = className;
@@ -71,8 +65,6 @@ class SpellsTest : public ::testing::Test {
   }
 
   TestFolder folder;
-  ScriptedPlatform platform;
-  std::unique_ptr<Game> game = MakeGame(platform);
 };
 
 TEST_F(SpellsTest, EveryClassOfMageIsDealtWhatItIsOwed) {
@@ -190,7 +182,7 @@ TEST_F(SpellsTest, ReadingAndWritingFollowTheChoice) {
 TEST_F(SpellsTest, CantripsAreChosenUpToTheirNumber) {
   Mage("Magic-User", 12, 3);
   game->run.SpellListIndex = 2;
-  platform.ExpectForm("SpellSellection", [&](Form& form) {
+  Play("SpellSellection", RunSpellSellection, [&](Form& form) {
     for (int i = 0; i < 3; ++i) {
       form.Choose(kMasterList, 0);
       form.Press(kAdd);
@@ -202,7 +194,6 @@ TEST_F(SpellsTest, CantripsAreChosenUpToTheirNumber) {
     EXPECT_EQ(form.Text(121), "You have 1 more slots for this spell level.");
     form.PressCloseBox();
   });
-  RunSpellSellection(*game);
   EXPECT_EQ(KnownCantrips(*game), 1);
   for (const int mark : game->sheet.SpellsKnown) EXPECT_LE(mark, 14);
 }
