@@ -3,6 +3,7 @@
 #include "dice/dice.h"
 #include "dice/dice_tester.h"
 #include "editors/custom_item_editor.h"
+#include "editors/main_edit.h"
 #include "generation/main_title.h"
 #include "generation/save_by_extension.h"
 #include "generation/sequencer.h"
@@ -38,6 +39,10 @@ void Load(Game& game) {
   if (AskAndLoadCharacter(game)) UpdateMainTitle(game, game.sheet.CharacterName);
 }
 
+void Edit(Game& game, bool (*edit)(Game&)) {
+  if (edit(game)) UpdateMainTitle(game, game.sheet.CharacterName);
+}
+
 void RecoverCharacter(Game& game) {
   if (!RunRecover(game)) return;
   CloseStepThree(game);
@@ -47,15 +52,14 @@ void RecoverCharacter(Game& game) {
 }  // namespace
 
 std::vector<MenuItem> MainMenu() {
-  const auto later = [](int id, const char* text) { return MenuItem{.Id = id, .Text = text, .Enabled = false}; };
   return {
       {.Text = "&File",
        .Items = {{.Id = kNewCharacter, .Text = "&New Character"},
                  {.Id = kSave, .Text = "&Save"},
                  {.Id = kLoad, .Text = "&Load"},
                  {.Id = kRecover, .Text = "&Recover"},
-                 later(kEdit, "&Edit"),
-                 later(kInputCharacter, "&Input own character"),
+                 {.Id = kEdit, .Text = "&Edit"},
+                 {.Id = kInputCharacter, .Text = "&Input own character"},
                  {.Id = kExit, .Text = "E&xit"}}},
       {.Text = "&Help",
        .Items = {{.Id = kDiceTester, .Text = "&Dice Tester 3d6"},
@@ -75,6 +79,8 @@ void RunMainCommand(Game& game, int id) {
     case kSave: return Save(game);
     case kLoad: return Load(game);
     case kRecover: return RecoverCharacter(game);
+    case kEdit: return Edit(game, RunMainEdit);
+    case kInputCharacter: return Edit(game, RunEnter);
     case kExit: return game.platform.CloseMainWindow();
     case kDiceRoller: return RunGmDiceRoller(game);
     case kDiceTester: return RunDiceTester(game);

@@ -7,7 +7,15 @@
 #include <set>
 
 #include "dice/dice.h"
+#include "editors/class_progress.h"
 #include "editors/custom_item_editor.h"
+#include "editors/edit_classes.h"
+#include "editors/edit_quirks.h"
+#include "editors/edit_skills.h"
+#include "editors/edit_spell_books.h"
+#include "editors/edit_spells.h"
+#include "editors/main_edit.h"
+#include "editors/person_pages.h"
 #include "platform/ask_name.h"
 #include "pty_program.h"
 #include "referee/critical_hits.h"
@@ -132,6 +140,27 @@ const Dialog kDialogs[] = {
     {"GM - Honor Tracking System", RunHonorTracking},
     {"Critical Hits", RunCriticalHits},
     {"Custom Item Editor", RunCustomItemEditor},
+    {"Input own character", [](Game& game) { RunEnter(game); }},
+    {"The person", RunEditPerson},
+    {"Abilities", RunEditAbilities},
+    {"Money and inheritance", RunEditMoney},
+    {"Birth and family", RunPriorEdit},
+    {"Youth of a fighter", RunEditMilitary},
+    {"Youth of a mage", RunEditSchool},
+    {"Youth of a priest", RunEditSeminary},
+    {"Tattoos", RunEditTattoos},
+    {"Honor and other counts", RunEditStanding},
+    {"Classes and levels", [](Game& game) { RunEditClasses(game, kWrittenLevels); }},
+    {"Levels and hit points",
+     [](Game& game) {
+       game.RuleSwitches[kRollYourOwnDice] = 0;
+       AddClass(game, 3);
+       RunEditLevels(game);
+     }},
+    {"Skills, Talents and Proficiencies", RunEditSkills},
+    {"Quirks and Flaws", RunEditQuirks},
+    {"Spells Known", RunEditSpells},
+    {"Spell Books", RunEditSpellBooks},
 };
 
 /// A character that has been through a generation, so that every dialog has something to show.

@@ -105,12 +105,12 @@ void MoveIllusionist(CharacterSheet& sheet) {
   for (int ability = 0; ability < kAbilityCount; ++ability) move(LevelGainAt(sheet, ability));
 }
 
-NamedClass AdvanceNamedClass(Game& game, const ChainRun& run, int namedRow) {
+NamedClass AdvanceNamedClass(Game& game, const ChainRun& run, int namedRow, const LevelWay& way) {
   CharacterSheet& sheet = game.sheet;
   const int classRow = namedRow == ClassRow::Illusionist ? ClassRow::StandardIllusionist : namedRow;
   if (namedRow == ClassRow::Illusionist) MoveIllusionist(sheet);
   const bool isNew = sheet.ClassLevels[Index(classRow)] == 0;
-  AdvanceClassLevels(game, classRow);
+  AdvanceClassLevels(game, classRow, way);
   const int level = sheet.ClassLevels[Index(classRow)];
   const bool isEntered = isNew && level > 0;
   if (isEntered) EnterClass(game, run, classRow);
@@ -129,14 +129,42 @@ bool NamesKnownClass(std::string_view className) {
   });
 }
 
-std::vector<NamedClass> AdvanceNamedClasses(Game& game, std::string_view classText) {
+std::vector<NamedClass> AdvanceNamedClasses(Game& game, std::string_view classText, const LevelWay& way) {
   std::vector<NamedClass> classes;
   for (const ChainRun& run : kClassChain) {
     for (int row = run.First; row <= run.Last; ++row) {
-      if (NamesClass(classText, row)) classes.push_back(AdvanceNamedClass(game, run, row));
+      if (NamesClass(classText, row)) classes.push_back(AdvanceNamedClass(game, run, row, way));
     }
   }
   return classes;
+}
+
+void LeaveClass(Game& game, int classRow) {
+  CharacterSheet& sheet = game.sheet;
+  LoseClassLevels(game, classRow);
+  sheet.ClassExperience[Index(classRow)] = 0;
+  sheet.ClassProficiencySlots[Index(classRow)] = 0;
+  const auto holdsAny = [&](int ClassRecord::*group) {
+    for (int row = 1; row <= kLastSingleClass; ++row) {
+      if (sheet.ClassLevels[Index(row)] > 0 && ClassAt(row).*group == 1) return 1;
+    }
+    return 0;
+  };
+  if (ClassAt(classRow).IsCleric == 1) sheet.IsClericClass = holdsAny(&ClassRecord::IsCleric);
+  if (ClassAt(classRow).IsFighter == 1) sheet.IsFighterClass = holdsAny(&ClassRecord::IsFighter);
+  if (ClassAt(classRow).IsMage == 1) sheet.IsMageClass = holdsAny(&ClassRecord::IsMage);
+  if (ClassAt(classRow).IsThief == 1) sheet.IsThiefClass = holdsAny(&ClassRecord::IsThief);
+  if (classRow == ClassRow::KnightErrant || classRow == ClassRow::Fighter) sheet.FreeWeaponProficiencySlots = 0;
+  if (classRow == ClassRow::BattleMage) {
+    sheet.Wisdom.Whole = AddSaturated(sheet.Wisdom.Whole, 1);
+    if (HasTrait(sheet.RaceName, RaceTrait::TalentedBattleMage)) sheet.TalentCounts[TalentRow::TouchedByYurgain] = 0;
+  }
+}
+
+bool IsCasterClass(int classRow) {
+  return std::ranges::any_of(kClassChain, [&](const ChainRun& run) {
+    return classRow >= run.First && classRow <= run.Last && run.Spells >= 0;
+  });
 }
 
 void SetSpellsForLevel(Game& game, int level) {

@@ -16,7 +16,7 @@ namespace veld {
 
 namespace {
 
-constexpr int kHighestGain = 97;  ///< no level above is gained
+constexpr int kHighestGain = 97;
 constexpr int kHighestDruidGain = 23;
 
 std::size_t Index(int number) {
@@ -28,25 +28,6 @@ void AddHitDice(Game& game, int classRow, int level, int sign) {
   int dice = ClassAt(classRow).HitDiceAtLevel[Index(level)];
   if (level == 1 && HasTrait(game.sheet.RaceName, RaceTrait::DoubledFirstHitDice)) dice *= 2;
   total = AddSaturated(total, sign * dice);
-}
-
-void RollLevelHitPoints(Game& game, int classRow, int level) {
-  CharacterSheet& sheet = game.sheet;
-  const ClassRecord& record = ClassAt(classRow);
-  const auto roll = [&] {
-    return RollHitPointDice(game, record.HitDieSides[Index(level)], record.HitDieCount[Index(level)]);
-  };
-  int& base = BaseHitPoints(sheet, classRow);
-  if (level == 1) base = record.Kicker;
-  int points = roll();
-  const auto has = [&](RaceTrait trait) { return HasTrait(sheet.RaceName, trait); };
-  if (level == 1 && has(RaceTrait::DoubledFirstHitDice)) points = AddSaturated(points, roll());
-  if (has(RaceTrait::HalvedHitPoints)) points /= 2;
-  if (has(RaceTrait::HalvedHitPointsAndKicker)) {
-    points = AddSaturated(points, 1) / 2;
-    if (level == 1) base /= 2;
-  }
-  sheet.LevelHitPoints[Index(level)][Index(classRow)] = AddSaturated(points, record.FlatHitPoints[Index(level)]);
 }
 
 /// Each ability grows by its class's die and the Honor Die, rolled in the order of the players' sheet.
@@ -65,15 +46,16 @@ void RollAbilityGains(Game& game, int classRow, int level) {
   for (const Ability ability : kRollOrder) gain(ability) = AddSaturated(gain(ability), game.run.HonorDieBonus);
 }
 
-void GainLevel(Game& game, int classRow) {
+void GainLevel(Game& game, int classRow, const LevelWay& way) {
   CharacterSheet& sheet = game.sheet;
   const ClassRecord& record = ClassAt(classRow);
   int& held = sheet.ClassLevels[Index(classRow)];
-  if (held > 0) RunTraining(game);
+  if (held > 0 && way.HasTraining) RunTraining(game);
   const int level = ++held;
   AddHitDice(game, classRow, level, 1);
   int& slots = sheet.ClassProficiencySlots[Index(classRow)];
   slots = AddSaturated(slots, record.ProficiencySlotsAtLevel[Index(level)]);
+  if (!way.IsRolled) return;
   if (record.ThiefPointsAtLevel[Index(level)] != 0) {
     game.run.ThiefPointsToSpend = record.ThiefPointsAtLevel[Index(level)];
     RunAllotment(game, classRow);
@@ -108,14 +90,41 @@ void LoseLevel(Game& game, int classRow) {
 
 }  // namespace
 
-void AdvanceClassLevels(Game& game, int classRow) {
+int HighestLevelOf(int classRow) {
+  return classRow == ClassRow::Druid ? kHighestDruidGain : kHighestGain;
+}
+
+void RollLevelHitPoints(Game& game, int classRow, int level) {
+  CharacterSheet& sheet = game.sheet;
+  const ClassRecord& record = ClassAt(classRow);
+  const auto roll = [&] {
+    return RollHitPointDice(game, record.HitDieSides[Index(level)], record.HitDieCount[Index(level)]);
+  };
+  int& base = BaseHitPoints(sheet, classRow);
+  if (level == 1) base = record.Kicker;
+  int points = roll();
+  const auto has = [&](RaceTrait trait) { return HasTrait(sheet.RaceName, trait); };
+  if (level == 1 && has(RaceTrait::DoubledFirstHitDice)) points = AddSaturated(points, roll());
+  if (has(RaceTrait::HalvedHitPoints)) points /= 2;
+  if (has(RaceTrait::HalvedHitPointsAndKicker)) {
+    points = AddSaturated(points, 1) / 2;
+    if (level == 1) base /= 2;
+  }
+  sheet.LevelHitPoints[Index(level)][Index(classRow)] = AddSaturated(points, record.FlatHitPoints[Index(level)]);
+}
+
+void AdvanceClassLevels(Game& game, int classRow, const LevelWay& way) {
   if (classRow < 1 || classRow > kLastSingleClass) return;
   const int earned = EarnedLevel(classRow, game.sheet.ClassExperience[Index(classRow)]);
-  const int highest = classRow == ClassRow::Druid ? kHighestDruidGain : kHighestGain;
-  const int allowed = std::min({earned, highest, game.run.ClassAllowed[Index(classRow)]});
+  const int open = way.IsHeldToRace ? game.run.ClassAllowed[Index(classRow)] : kHighestLevel;
+  const int allowed = std::min({earned, HighestLevelOf(classRow), open});
   const int& held = game.sheet.ClassLevels[Index(classRow)];
-  while (held < allowed) GainLevel(game, classRow);
+  while (held < allowed) GainLevel(game, classRow, way);
   while (held > earned) LoseLevel(game, classRow);
+}
+
+void LoseClassLevels(Game& game, int classRow) {
+  while (game.sheet.ClassLevels[Index(classRow)] > 0) LoseLevel(game, classRow);
 }
 
 void HoldLevels(CharacterSheet& sheet) {

@@ -6,17 +6,15 @@
 #include "steps/classes/allotments.h"
 #include "steps/classes/class_chain.h"
 #include "steps/classes/class_extras.h"
-#include "steps/classes/class_levels.h"
 #include "steps/classes/class_saves.h"
 #include "steps/classes/class_totals.h"
 #include "steps/classes/honor.h"
-#include "steps/classes/level_gains.h"
 #include "steps/classes/movement.h"
 #include "steps/race/race_choice.h"
 
 namespace veld {
 
-bool RecomputeFromClasses(Game& game) {
+bool RecomputeFromClasses(Game& game, const LevelWay& way, GainsTakenOut gains) {
   CharacterSheet& sheet = game.sheet;
   const std::string classText(sheet.ClassName.View());
   if (!NamesKnownClass(classText)) return false;
@@ -25,9 +23,9 @@ bool RecomputeFromClasses(Game& game) {
   BindRaceRow(game);
   HoldLevels(sheet);
   SumLevelGains(sheet);
-  TakeOutLevelGains(game);
+  TakeOutLevelGains(game, gains);
   ClearSavesAndSlots(sheet);
-  const std::vector<NamedClass> classes = AdvanceNamedClasses(game, classText);
+  const std::vector<NamedClass> classes = AdvanceNamedClasses(game, classText, way);
 
   SumHitPoints(game);
   SumLevelGains(sheet);

@@ -29,8 +29,8 @@ void SumLevelGains(CharacterSheet& sheet) {
   }
 }
 
-void TakeOutLevelGains(Game& game) {
-  const ClassTotals totals = SumClasses(game, kRowsTakenOut);
+void TakeOutLevelGains(Game& game, GainsTakenOut which) {
+  const ClassTotals totals = which == GainsTakenOut::FirstClasses ? SumClasses(game, kRowsTakenOut) : SumClasses(game);
   for (int ability = 0; ability < kAbilityCount; ++ability) {
     AbilityScore& score = AbilityAt(game.sheet, ability);
     const std::int64_t gain = AverageGain(totals, ability);

@@ -11,7 +11,9 @@ void SumLevelGains(CharacterSheet& sheet);
 
 /// Takes out of the abilities what the last run added, and remembers which score stood at 0 without it. Until
 /// AddLevelGains the whole scores are those with the gains: new levels are rolled by them.
-void TakeOutLevelGains(Game& game);
+/// The rules take out the first classes only (see the source); who keeps the abilities as they are takes out all.
+enum class GainsTakenOut { FirstClasses, AllClasses };
+void TakeOutLevelGains(Game& game, GainsTakenOut which = GainsTakenOut::FirstClasses);
 
 /// Adds the average gain of the classes to the abilities.
 void AddLevelGains(Game& game, const ClassTotals& totals);

@@ -1,6 +1,5 @@
 #include "steps/finish/alignment.h"
 
-#include <array>
 #include <string>
 
 #include "platform/form.h"
@@ -19,9 +18,6 @@ enum : int { kOk = 1, kAbort = 2, kAlignments = 4046 };
 constexpr std::string_view kNotPicked = "Please Pick";
 
 constexpr std::size_t kNeutral = 4;
-constexpr std::array<std::string_view, kAlignmentCount> kAlignmentNames = {
-    "Lawful-good  ",  "Lawful-neutral  ", "Lawful-evil  ",     "Neutral-good  ", "Neutral  ",
-    "Neutral-evil  ", "Chaotic-good  ",   "Chaotic-neutral  ", "Chaotic-evil  "};
 
 constexpr ControlTemplate kStepFourteenControls[] = {
     TitleAt(0, 0, "Step 14: Choose an Alignment"),

@@ -180,10 +180,10 @@ void PressTrade(Game& game, EquipPage& page, int id) {
   if (id == kRemove && owned) Trade(game, page, OwnedLine(*owned), -1);
 }
 
-void RunEquipPage(Game& game, const FormTemplate& pageTemplate) {
+void RunEquipPage(Game& game, const FormTemplate& pageTemplate, bool isFree) {
   EquipPage page(pageTemplate);
   page.form.onOpened = [&] {
-    page.form.SetChecked(kBuy, true);
+    page.form.SetChecked(isFree ? kAddFree : kBuy, true);
     FillEquipmentCategories(page.form);
     FillEquipmentList(game, page);
     FillOwnedEquipment(game, page);
@@ -209,11 +209,15 @@ void RunEquipPage(Game& game, const FormTemplate& pageTemplate) {
 }  // namespace
 
 void RunEquip(Game& game) {
-  RunEquipPage(game, kEquip);
+  RunEquipPage(game, kEquip, false);
 }
 
 void RunEditEquip(Game& game) {
-  RunEquipPage(game, kEditEquip);
+  RunEquipPage(game, kEditEquip, false);
+}
+
+void RunFreeEquip(Game& game) {
+  RunEquipPage(game, kEditEquip, true);
 }
 
 }  // namespace veld

@@ -111,6 +111,18 @@ void BarClassesForQuirks(Game& game) {
   }
 }
 
+std::vector<int> ClassesBarredBy(int quirk) {
+  std::vector<int> classes;
+  for (const ClassBar& bar : kClassBars) {
+    if (quirk >= bar.FirstQuirk && quirk <= bar.LastQuirk) classes.push_back(bar.ClassRow);
+  }
+  return classes;
+}
+
+bool ChangesAbilities(int quirk) {
+  return std::ranges::find(kAbilityEffects, quirk, &QuirkAbilityEffect::Quirk) != std::end(kAbilityEffects);
+}
+
 void ApplyArmGain(Game& game) {
   GainForLimbs(game.run.ArmAmputations, game.sheet.Intelligence);
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "store/game.h"
 
 namespace veld {
@@ -13,6 +15,11 @@ void ApplyQuirkEffects(Game& game);
 
 /// Bars the classes that the quirks held close to the character. Whoever sets the class limits anew calls it again.
 void BarClassesForQuirks(Game& game);
+
+/// The rows of the classes that a quirk or flaw closes.
+std::vector<int> ClassesBarredBy(int quirk);
+/// True of a quirk or flaw that changes abilities when a generation takes it.
+bool ChangesAbilities(int quirk);
 
 /// What a character makes up for by the arms lost in youth: 25 percentile points of Intelligence for one, a whole point
 /// for both; and by the legs: Strength likewise. Called once when ArmAmputations or LegAmputations has been raised.

@@ -40,15 +40,19 @@ void PayHonorOfYouth(Game& game) {
 
 }  // namespace
 
-void RunSkillSetup(Game& game) {
-  GrantRaceTalents(game);
+void GiveClassGrants(Game& game, std::string_view className) {
   const int kept = TruncateToInt(game.run.BuildingPoints);
   game.run.BuildingPoints = kSetupBP;
-  PayHonorOfYouth(game);
-  for (const GrantText& grants : ClassGrants(game.sheet.ClassName, game.sheet.UsesFighterBackground == 1)) {
+  for (const GrantText& grants : ClassGrants(className, game.sheet.UsesFighterBackground == 1)) {
     GiveGrants(game, grants);
   }
   game.run.BuildingPoints = static_cast<float>(kept);
+}
+
+void RunSkillSetup(Game& game) {
+  GrantRaceTalents(game);
+  PayHonorOfYouth(game);
+  GiveClassGrants(game, game.sheet.ClassName);
 }
 
 }  // namespace veld
