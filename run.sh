@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds VELD and starts it: in windows where there is a display, else in this terminal.
 #   ./run.sh              ./run.sh --terminal    always in this terminal
+#   ./run.sh --replay FILE    plays a saved run to its last act
 set -euo pipefail
 cd "$(dirname "$0")"
 
@@ -12,7 +13,7 @@ if [ "${1:-}" = --terminal ] || { [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] && [
   scripts/install-packages.sh g++ cmake ninja-build libncurses-dev
   scripts/configure.sh terminal
   cmake --build build/terminal --target veld-terminal veld_data -- --quiet
-  exec build/terminal/bin/veld-terminal
+  exec build/terminal/bin/veld-terminal "$@"
 fi
 
 packages=(g++ cmake ninja-build qt6-base-dev libqt6widgets6 fonts-liberation libncurses-dev)

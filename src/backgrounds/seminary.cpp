@@ -58,6 +58,8 @@ struct ChainTable {
   int Line;
   Field& Result;
 };
+template <typename Field>
+ChainTable(std::string_view, int, Field&) -> ChainTable<Field>;
 
 /// Rolls a table until its row is kept, and lets `take` do what the row says. A total that no row is for leaves the
 /// result as it was, asks nothing and does what the first row says.

@@ -1,6 +1,7 @@
 #include "desktop/form_window.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
@@ -9,6 +10,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPalette>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
@@ -32,6 +34,14 @@ namespace {
 constexpr int kTitleBarHeight = 40;  // room for what a window manager draws around a window
 constexpr int kFrameWidth = 12;
 
+/// The keys that take back and do again.
+struct ActKey {
+  QKeyCombination Key;
+  bool DoesAgain;
+};
+constexpr ActKey kActKeys[] = {
+    {Qt::CTRL | Qt::Key_Z, false}, {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, true}, {Qt::CTRL | Qt::Key_Y, true}};
+
 }  // namespace
 
 void FillMenu(QWidget& menu, const std::vector<MenuItem>& items, const std::function<void(int id)>& onChosen) {
@@ -47,6 +57,8 @@ void FillMenu(QWidget& menu, const std::vector<MenuItem>& items, const std::func
     } else {
       auto* action = new QAction(ToQtLine(item.Text), &menu);
       action->setEnabled(item.Enabled);
+      action->setShortcut(QKeySequence(ToQtLine(item.Shortcut)));
+      action->setAutoRepeat(false);
       QObject::connect(action, &QAction::triggered, &menu, [onChosen, id = item.Id] { onChosen(id); });
       menu.addAction(action);
     }
@@ -105,8 +117,10 @@ void FormWindow::Build() {
   for (const Control& control : form_.Controls()) widgets_.push_back(MakeControlWidget(control, style_, paper_));
   for (std::size_t i = 0; i < widgets_.size(); ++i) Connect(i);
   MakeCorner();
+  MakeKeys();
   NameControls();
   MarkTexts();
+  ShowActs();
   isBuilt_ = true;
   for (std::size_t i = 0; i < widgets_.size(); ++i) Refresh(i);
   ResizeToForm();
@@ -136,6 +150,7 @@ void FormWindow::Connect(std::size_t control) {
       QObject::connect(static_cast<QLineEdit*>(widget), &QLineEdit::textEdited, this,
                        [this, control, id](const QString& text) {
                          Act([&] { form_.Type(id, ToQtLine(text.toStdString()).toStdString()); });
+                         typedIn_ = widgets_[control];
                          Refresh(control);
                        });
       break;
@@ -143,6 +158,7 @@ void FormWindow::Connect(std::size_t control) {
       auto* edit = static_cast<RuledEdit*>(widget);
       edit->onTyped = [this, control, id, edit] {
         Act([&] { form_.Type(id, edit->toPlainText().toStdString()); });
+        typedIn_ = edit;
         Refresh(control);
       };
       break;
@@ -187,6 +203,12 @@ void FormWindow::NameControls() {
   }
 }
 
+int FormWindow::CornerButtonWidth(const QPushButton& button) const {
+  const std::string text = WithoutMnemonic(button.text().toStdString());
+  const int padding = button.isFlat() ? metrics_.ControlGap : metrics_.ButtonPadding;
+  return style_.Metrics.TextWidth(text, TextFace::Plain) + 2 * padding;
+}
+
 /// The button of the form's menu, which a right click also opens; and the keys that open it.
 void FormWindow::MakeCorner() {
   if (form_.contextMenu.empty()) return;
@@ -194,7 +216,7 @@ void FormWindow::MakeCorner() {
   corner_->setAutoDefault(false);
   corner_->setObjectName("menu");
   QObject::connect(corner_, &QPushButton::clicked, this, [this] { OpenMenuByKeyboard(); });
-  metrics_.CornerWidth = style_.Metrics.TextWidth("Menu", TextFace::Plain) + 2 * metrics_.ButtonPadding;
+  metrics_.CornerWidth = CornerButtonWidth(*corner_);
   for (const QKeySequence& key : {QKeySequence(Qt::Key_Menu), QKeySequence(Qt::SHIFT | Qt::Key_F10)}) {
     QObject::connect(new QShortcut(key, this), &QShortcut::activated, this, [this] { OpenMenuByKeyboard(); });
   }
@@ -203,6 +225,54 @@ void FormWindow::MakeCorner() {
       widgets_[i]->setContextMenuPolicy(Qt::NoContextMenu);
     }
   }
+}
+
+/// The keys that take back and do again. They come here from every control, fields among them, which would keep them
+/// for themselves.
+void FormWindow::MakeKeys() {
+  for (const ActKey& key : kActKeys) {
+    auto* shortcut = new QShortcut(key.Key, this);
+    shortcut->setAutoRepeat(false);
+    QObject::connect(shortcut, &QShortcut::activated, this, [this, again = key.DoesAgain] {
+      if (!TypeBack(again)) again ? DoAgain() : TakeBack();
+    });
+  }
+  for (QWidget* widget : widgets_) {
+    widget->installEventFilter(this);
+    if (auto* combo = qobject_cast<QComboBox*>(widget)) combo->view()->installEventFilter(this);
+  }
+}
+
+QPushButton* FormWindow::MakeActButton(const char* text, const char* tip, void (FormWindow::*act)()) {
+  auto* button = new QPushButton(text, paper_);
+  button->setObjectName(text);
+  button->setToolTip(tip);
+  button->setAutoDefault(false);
+  button->setFlat(true);
+  button->setFocusPolicy(Qt::NoFocus);
+  button->setCursor(Qt::PointingHandCursor);
+  QPalette ink = button->palette();
+  ink.setColor(QPalette::ButtonText, QColor(kInkColor));
+  button->setPalette(ink);
+  QObject::connect(button, &QPushButton::clicked, this, act);
+  metrics_.CornerWidth += CornerButtonWidth(*button);
+  return button;
+}
+
+/// Shows the buttons of what can be taken back and done again. From when there is something both have their room, so
+/// that nothing moves as they come and go.
+void FormWindow::ShowActs() {
+  const bool canTakeBack = form_.CanTakeBack();
+  const bool canDoAgain = form_.CanDoAgain();
+  if (!takeBack_) {
+    if (!canTakeBack && !canDoAgain) return;
+    takeBack_ = MakeActButton("Undo", "Takes back what was done last (Ctrl+Z)", &FormWindow::TakeBack);
+    doAgain_ = MakeActButton("Redo", "Does again what was taken back last (Ctrl+Shift+Z)", &FormWindow::DoAgain);
+    metrics_.IsCornerFlat = !corner_;
+    FitSoon();
+  }
+  takeBack_->setVisible(canTakeBack);
+  doAgain_->setVisible(canDoAgain);
 }
 
 void FormWindow::FocusFirst() {
@@ -263,7 +333,13 @@ void FormWindow::LayOut() {
   for (const PlacedControl& placed : page.Controls) {
     PlaceControl(*widgets_[placed.Control], form_.Controls()[placed.Control], placed);
   }
-  if (corner_) corner_->setGeometry(page.Corner.X, page.Corner.Y, page.Corner.Width, page.Corner.Height);
+  int right = page.Corner.Right();
+  for (QPushButton* button : {corner_, takeBack_, doAgain_}) {
+    if (!button) continue;
+    const int width = CornerButtonWidth(*button);
+    right -= width;
+    button->setGeometry(right, page.Corner.Y, width, page.Corner.Height);
+  }
 }
 
 void FormWindow::MarkTexts() {
@@ -328,6 +404,7 @@ void FormWindow::OnClosed() {
 /// gets the exception.
 void FormWindow::Act(const std::function<void()>& act) {
   ++depth_;
+  typedIn_ = nullptr;
   try {
     ChooseNow();
     if (!form_.IsClosed()) act();
@@ -341,6 +418,7 @@ void FormWindow::Act(const std::function<void()>& act) {
 void FormWindow::AfterAct() {
   if (error_ && !isModal_ && onError) onError(std::exchange(error_, nullptr));
   if (error_) form_.Close();
+  if (!form_.IsClosed()) ShowActs();
   if (needsFit_ && !form_.IsClosed()) FitToForm();
   if (IsOver() && onOver) onOver();
 }
@@ -383,6 +461,50 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
   Act([this, focus] { form_.PressEnterAt(focus); });
 }
 
+/// What another window did may be there to be taken back in this one.
+void FormWindow::changeEvent(QEvent* event) {
+  QDialog::changeEvent(event);
+  if (event->type() == QEvent::ActivationChange && isBuilt_ && !form_.IsClosed()) ShowActs();
+}
+
+/// A list or menu that hangs open goes before anything is taken back. A field does not keep the keys for itself:
+/// whether its typing goes first is decided here.
+bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
+  const bool isKey = event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
+  const auto isPressed = [event](const ActKey& key) {
+    return key.Key == static_cast<const QKeyEvent&>(*event).keyCombination();
+  };
+  if (!isKey || std::ranges::none_of(kActKeys, isPressed)) return QDialog::eventFilter(watched, event);
+  QWidget* const popup = QApplication::activePopupWidget();
+  if (popup) popup->close();
+  event->setAccepted(popup != nullptr);
+  return true;
+}
+
+/// Takes back what was typed last in the field that has the focus, or types it again; the form is told as of any
+/// typing. Returns false if there is nothing more of it, or something that was done since goes first.
+bool FormWindow::TypeBack(bool again) {
+  const bool hasActs = again ? form_.CanDoAgain() : form_.CanTakeBack();
+  if (hasActs && typedIn_ != focusWidget()) return false;
+  if (auto* line = qobject_cast<QLineEdit*>(focusWidget())) {
+    if (!(again ? line->isRedoAvailable() : line->isUndoAvailable())) return false;
+    again ? line->redo() : line->undo();
+    return true;
+  }
+  auto* text = qobject_cast<QTextEdit*>(focusWidget());
+  if (!text || !(again ? text->document()->isRedoAvailable() : text->document()->isUndoAvailable())) return false;
+  again ? text->redo() : text->undo();
+  return true;
+}
+
+void FormWindow::TakeBack() {
+  if (form_.CanTakeBack()) Act([this] { form_.TakeBack(); });
+}
+
+void FormWindow::DoAgain() {
+  if (form_.CanDoAgain()) Act([this] { form_.DoAgain(); });
+}
+
 void FormWindow::contextMenuEvent(QContextMenuEvent* event) {
   if (form_.contextMenu.empty()) return QDialog::contextMenuEvent(event);
   if (event->reason() == QContextMenuEvent::Keyboard) {
@@ -400,6 +522,8 @@ void FormWindow::OpenMenu(QPoint place) {
   int chosen = 0;
   QMenu menu(this);
   FillMenu(menu, form_.contextMenu, [&](int id) { chosen = id; });
+  menu.installEventFilter(this);
+  for (QMenu* sub : menu.findChildren<QMenu*>()) sub->installEventFilter(this);
   menu.exec(place);
   if (chosen != 0) Act([&] { form_.ChooseMenuItem(chosen); });
 }

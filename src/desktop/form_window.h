@@ -37,8 +37,10 @@ class FormWindow : public QDialog, private FormObserver {
  protected:
   void reject() override;  // Escape, the close box
   void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void OnControlChanged(std::size_t control) override;
@@ -52,6 +54,10 @@ class FormWindow : public QDialog, private FormObserver {
   void JoinGroup(std::size_t control);
   void NameControls();
   void MakeCorner();
+  void MakeKeys();
+  void ShowActs();
+  int CornerButtonWidth(const QPushButton& button) const;
+  QPushButton* MakeActButton(const char* text, const char* tip, void (FormWindow::*act)());
   void FocusFirst();
   void TakeFocus(std::size_t control);
   void ResizeToForm();
@@ -65,6 +71,9 @@ class FormWindow : public QDialog, private FormObserver {
   void ChooseNow();
   void OpenMenu(QPoint place);
   void OpenMenuByKeyboard();
+  bool TypeBack(bool again);
+  void TakeBack();
+  void DoAgain();
   void Act(const std::function<void()>& act);
   void AfterAct();
   int IdOf(std::size_t control) const { return form_.Controls()[control].Template.Id; }
@@ -75,11 +84,14 @@ class FormWindow : public QDialog, private FormObserver {
   QScrollArea* scroll_;
   Paper* paper_;
   QPushButton* corner_ = nullptr;
+  QPushButton* takeBack_ = nullptr;  ///< both are made when there is first something for one of them to do
+  QPushButton* doAgain_ = nullptr;
   std::vector<QWidget*> widgets_;  ///< one for each control of the form
   std::map<int, QButtonGroup*> groups_;
   std::vector<QString> marked_;
   std::optional<std::size_t> wantedFocus_;
   std::optional<std::pair<std::size_t, int>> choice_;  ///< a row just chosen, not yet told to the form
+  const QWidget* typedIn_ = nullptr;  ///< the field, if nothing has been done since something was typed there
   bool isBuilt_ = false;
   bool isModal_ = false;
   bool needsFit_ = false;

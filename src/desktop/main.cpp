@@ -61,6 +61,7 @@ void HearToolkit(QtMsgType type, const QMessageLogContext&, const QString&) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  const std::string run = veld::RunToPlay(argc, argv);
   if (!HasDesktop()) return Refuse(kNoDesktop);
   ProvideRuntimeFolder();
   qInstallMessageHandler(HearToolkit);
@@ -70,7 +71,7 @@ int main(int argc, char** argv) {
   QApplication::setDesktopFileName("veld");
   try {
     veld::DesktopPlatform platform({.Fonts = &fonts});
-    return veld::RunVeld(platform);
+    return veld::RunVeld(platform, run);
   } catch (const std::exception& error) {
     std::fprintf(stderr, "VELD stops: %s\n", error.what());
     return EXIT_FAILURE;

@@ -6,6 +6,7 @@
 
 #include "dice/random.h"
 #include "dice/typed_dice.h"
+#include "platform/platform.h"
 #include "store/log_file.h"
 #include "text/format.h"
 #include "text/numbers.h"
@@ -136,6 +137,7 @@ HeldDiceLog::~HeldDiceLog() {
 }
 
 void LogDiceLine(Game& game, std::string_view line) {
+  if (game.platform.IsReplaying()) return;
   switch (game.dice.LogMode) {
     case DiceLogMode::EachLine:
       AppendLine(kDiceLog, line);

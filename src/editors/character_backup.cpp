@@ -7,6 +7,7 @@ CharacterBackup::CharacterBackup(const Game& game)
       run_(std::make_unique<GenerationRun>(game.run)),
       goods_(new Goods{game.EquipmentTable, game.CustomEquipmentTable, game.CameWithCharacter}),
       recoveryCopy_(game.recoveryCopy),
+      character_(game.characters),
       isFinished_(game.isFinished) {}
 
 void CharacterBackup::Restore(Game& game) const {
@@ -16,6 +17,7 @@ void CharacterBackup::Restore(Game& game) const {
   game.CustomEquipmentTable = goods_->Custom;
   game.CameWithCharacter = goods_->CameWithCharacter;
   game.recoveryCopy = recoveryCopy_;
+  game.characters = character_;
   game.isFinished = isFinished_;
 }
 

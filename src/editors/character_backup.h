@@ -27,6 +27,7 @@ class CharacterBackup {
   std::unique_ptr<GenerationRun> run_;
   std::unique_ptr<Goods> goods_;
   std::string recoveryCopy_;
+  int character_;
   bool isFinished_;
 };
 

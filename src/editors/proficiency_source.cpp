@@ -83,8 +83,9 @@ std::vector<HeldChoice> WeaponChoices(const Game& game) {
     if (weapon.Name.empty() || weapon.SpecializationCost >= kDearestForAbilities) continue;
     choices.push_back({row, WeaponName(row)});
   }
-  std::ranges::stable_partition(
-      choices, [&](const HeldChoice& choice) { return LevelOf(game, choice.Value) >= ProficiencyMark::Proficient; });
+  std::stable_partition(choices.begin(), choices.end(), [&](const HeldChoice& choice) {
+    return LevelOf(game, choice.Value) >= ProficiencyMark::Proficient;
+  });
   return choices;
 }
 

@@ -145,9 +145,22 @@ bool Form::IsUsable(const Control* control) const {
   return control && !closed_ && control->Enabled && control->Visible;
 }
 
+void Form::TellAct(const FormAct& act) const {
+  if (acts_) acts_->OnAct(*this, act);
+}
+
+void Form::TakeBack() {
+  if (CanTakeBack()) acts_->TakeBack();
+}
+
+void Form::DoAgain() {
+  if (CanDoAgain()) acts_->DoAgain();
+}
+
 bool Form::Press(int id) {
   const Control* control = Find(id);
   if (!IsUsable(control) || control->Template.Kind != ControlKind::Button) return false;
+  TellAct({.What = FormAct::Kind::Press, .Id = id});
   if (onCommand) onCommand(id);
   return true;
 }
@@ -157,6 +170,9 @@ bool Form::Choose(int id, int selection) {
   if (!IsUsable(control)) return false;
   if (control->Template.Kind != ControlKind::List && control->Template.Kind != ControlKind::Combo) return false;
   if (selection < 0 || selection >= static_cast<int>(control->Items.size())) return false;
+  const auto row = control->Items.begin() + selection;
+  const auto before = std::count(control->Items.begin(), row, *row);
+  TellAct({.What = FormAct::Kind::Choose, .Id = id, .Text = *row, .Place = static_cast<int>(before)});
   control->Selection = selection;
   Changed(*control);
   if (onSelect) onSelect(id);
@@ -170,6 +186,7 @@ bool Form::Type(int id, std::string_view text) {
   if (kind != ControlKind::Edit && kind != ControlKind::Number && kind != ControlKind::MultiLine) return false;
   if (control->Template.IsReadOnly) return false;
   if (control->Template.Limit > 0) text = CutToBytes(text, static_cast<std::size_t>(control->Template.Limit));
+  TellAct({.What = FormAct::Kind::Type, .Id = id, .Text = text});
   if (control->Text != text) {
     control->Text = std::string(text);
     Changed(*control);
@@ -182,6 +199,7 @@ bool Form::Mark(int id, bool checked) {
   Control* control = Find(id);
   if (!IsUsable(control)) return false;
   if (!IsMark(control->Template.Kind)) return false;
+  TellAct({.What = FormAct::Kind::Mark, .Id = id, .Place = checked ? 1 : 0});
   SetMark(*control, checked || control->Template.Kind == ControlKind::Radio);
   if (onCommand) onCommand(id);
   return true;
@@ -189,6 +207,7 @@ bool Form::Mark(int id, bool checked) {
 
 bool Form::ChooseMenuItem(int id) {
   if (closed_ || id == 0 || !onCommand) return false;
+  TellAct({.What = FormAct::Kind::MenuItem, .Id = id});
   onCommand(id);
   return true;
 }
@@ -211,6 +230,7 @@ void Form::PressCloseBox() {
     const ButtonRole role = control.Template.Role;
     if (IsCancel(role) && Press(control.Template.Id)) return;
   }
+  if (!closed_) TellAct({.What = FormAct::Kind::CloseBox});
   Close();
 }
 

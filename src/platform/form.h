@@ -13,6 +13,8 @@
 
 namespace veld {
 
+class Form;
+
 /// What a front end that shows a form is told of changes. It then reads the form's state and draws it.
 class FormObserver {
  public:
@@ -21,6 +23,26 @@ class FormObserver {
   virtual void OnTitleChanged() = 0;
   virtual void OnFocusWanted(std::size_t control) = 0;
   virtual void OnClosed() = 0;
+};
+
+/// Something that a player did to a form and that the form took.
+struct FormAct {
+  enum class Kind { Press, Choose, Type, Mark, MenuItem, CloseBox };
+  Kind What = Kind::Press;
+  int Id = 0;
+  std::string_view Text = {};  ///< Choose: the row; Type: all that stands in the field
+  int Place = 0;               ///< Choose: how many rows of that text stand before it; Mark: 1 or 0
+};
+
+/// Who keeps what players do to forms, and can take it back. The form tells an act before its handler runs.
+class FormActs {
+ public:
+  virtual ~FormActs() = default;
+  virtual void OnAct(const Form& form, const FormAct& act) = 0;
+  virtual bool CanTakeBack() const = 0;
+  virtual void TakeBack() = 0;  ///< the last act that counted; the form may close
+  virtual bool CanDoAgain() const = 0;
+  virtual void DoAgain() = 0;  ///< what was taken back last
 };
 
 /// A control and its live state.
@@ -75,6 +97,7 @@ class Form {
   const std::string& Title() const { return title_; }
   const std::vector<Control>& Controls() const { return controls_; }
   void SetObserver(FormObserver* observer) { observer_ = observer; }
+  void SetActs(FormActs* acts) { acts_ = acts; }
   /// The control that has the focus first, if no handler wants another: a field to type in, so that a player just
   /// types; else a list; else the default button; else whatever can be pressed. The number of controls if there is
   /// none.
@@ -87,7 +110,11 @@ class Form {
   bool ChooseMenuItem(int id);
   bool PressDefault();
   bool PressEnterAt(std::size_t control);  ///< the button of its field, else the default one
-  void PressCloseBox();  ///< its Cancel button; a form without an enabled one closes
+  void PressCloseBox();                    ///< its Cancel button; a form without an enabled one closes
+  bool CanTakeBack() const { return acts_ && !closed_ && acts_->CanTakeBack(); }
+  void TakeBack();  ///< the last act that counted, in this form or one before it; nothing if there is none
+  bool CanDoAgain() const { return acts_ && !closed_ && acts_->CanDoAgain(); }
+  void DoAgain();  ///< what was taken back last
 
  private:
   Control* Find(int id);
@@ -95,11 +122,13 @@ class Form {
   void Changed(const Control& control);
   bool IsUsable(const Control* control) const;
   void SetMark(Control& control, bool checked);
+  void TellAct(const FormAct& act) const;
 
   std::string_view name_;
   std::string title_;
   std::vector<Control> controls_;
   FormObserver* observer_ = nullptr;
+  FormActs* acts_ = nullptr;
   bool opened_ = false;
   bool closed_ = false;
 };

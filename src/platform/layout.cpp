@@ -66,8 +66,9 @@ PageRect CornerOf(const Page& page, PageSize size) {
   const PageMetrics& m = page.metrics;
   if (m.CornerWidth == 0) return {};
   const int baseline = m.MarginTop + m.Baseline;
-  return {size.Width - m.MarginRight - m.CornerWidth, baseline - page.Density().BoxRise, m.CornerWidth,
-          page.Density().BoxHeight};
+  const int rise = m.IsCornerFlat ? m.MarkRise : page.Density().BoxRise;
+  const int height = m.IsCornerFlat ? m.MarkHeight : page.Density().BoxHeight;
+  return {size.Width - m.MarginRight - m.CornerWidth, baseline - rise, m.CornerWidth, height};
 }
 
 }  // namespace

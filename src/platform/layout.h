@@ -60,8 +60,9 @@ struct PageMetrics {
   int MarkWidth = 0;      ///< of a check or radio button's mark, with the gap before its text
   int MarkRise = 0;       ///< from the upper edge of a check or radio button to the baseline of its text
   int MarkHeight = 1;
-  int FrameAbove = 0;   ///< how far the frame of a list reaches into the line above; that much a text leaves free
-  int CornerWidth = 0;  ///< of the button that opens the form's menu in the page's upper right corner; 0: none
+  int FrameAbove = 0;         ///< how far the frame of a list reaches into the line above; that much a text leaves free
+  int CornerWidth = 0;        ///< of the buttons in the page's upper right corner, as of the form's menu; 0: none
+  bool IsCornerFlat = false;  ///< they are all mere words, which keep within their line
   PageDensity Roomy;
   PageDensity Dense;
 };
@@ -81,7 +82,7 @@ struct PageLayout {
   PageSize Page;  ///< the page as it is laid out: at least what it needs, else what is available
   bool IsRoomy = true;
   std::vector<PlacedControl> Controls;  ///< the visible ones, in the order of the form
-  PageRect Corner;                      ///< of the menu's button, if the metrics ask for one
+  PageRect Corner;                      ///< of its buttons, if the metrics ask for them
 };
 
 /// The size at which every control of the form has the room it wants, held to `limit` as far as lists and texts can

@@ -85,9 +85,9 @@ bool IsHeadingRow(const Page& page, int row) {
   return !RowHas(page, row, [](ControlKind kind) { return kind != ControlKind::Heading; });
 }
 
-/// The lines that the menu's button takes in the corner.
+/// The lines that the buttons take in the corner.
 int CornerLines(const Page& page) {
-  return BoxOverhang(page) + page.metrics.FrameAbove > 0 ? 2 : 1;
+  return !page.metrics.IsCornerFlat && BoxOverhang(page) + page.metrics.FrameAbove > 0 ? 2 : 1;
 }
 
 void PlanRow(Page& page, int place, int cap) {

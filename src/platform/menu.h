@@ -12,6 +12,7 @@ struct MenuItem {
   std::string Text;
   std::vector<MenuItem> Items = {};
   bool Enabled = true;
+  std::string Shortcut = {};  ///< "Ctrl+Z": chooses it without the menu, in a desktop's main window alone
 };
 
 }  // namespace veld

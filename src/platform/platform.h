@@ -70,6 +70,12 @@ class Platform {
   /// The clock, in seconds since 1970.
   virtual std::int64_t Now() const;
 
+  /// True while a run is played again that was played before: nobody sees it, and who writes logs and files then does
+  /// not write them a second time.
+  virtual bool IsReplaying() const { return false; }
+  /// True when nobody is there any more, and open forms are only being left.
+  virtual bool IsLost() const { return false; }
+
  protected:
   // A message and a question are ordinary forms, so that everything a player sees is the same paper.
   virtual void DoShowMessage(const std::string& caption, const std::string& text);

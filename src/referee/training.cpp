@@ -111,11 +111,14 @@ void LogTrainingLine(std::string_view text) {
 void RunTrainingTables(Game& game, Form& window) {
   constexpr std::string (*kRolls[kTrainingLines])(Game&) = {RollLocation, RollTeacher, RollClassSize, RollInstruction,
                                                             RollEvent};
-  LogTrainingLine("");
+  const auto log = [&](std::string_view line) {
+    if (!game.platform.IsReplaying()) LogTrainingLine(line);
+  };
+  log("");
   for (int line = 0; line < kTrainingLines; ++line) {
     const std::string text = kRolls[line](game);
     window.SetText(kFirstLine + line, text);
-    LogTrainingLine(text);
+    log(text);
   }
 }
 

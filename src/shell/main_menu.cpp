@@ -21,15 +21,6 @@ namespace veld {
 
 namespace {
 
-void NewCharacter(Game& game) {
-  CloseStepThree(game);
-  KeepRecoveryCopy(game);
-  UpdateMainTitle(game, "Nobody");
-  ResetCharacter(game);
-  RollAbilityScores(game);
-  OpenStepThree(game, RunGeneration);
-}
-
 void Save(Game& game) {
   if (AskAndSaveCharacter(game)) UpdateMainTitle(game, game.sheet.CharacterName);
 }
@@ -43,22 +34,34 @@ void Edit(Game& game, bool (*edit)(Game&)) {
   if (edit(game)) UpdateMainTitle(game, game.sheet.CharacterName);
 }
 
-void RecoverCharacter(Game& game) {
-  if (!RunRecover(game)) return;
+}  // namespace
+
+void BeginCharacter(Game& game) {
+  CloseStepThree(game);
+  KeepRecoveryCopy(game);
+  UpdateMainTitle(game, "Nobody");
+  ResetCharacter(game);
+  RollAbilityScores(game);
+  OpenStepThree(game, RunGeneration);
+}
+
+void TakeChosenCopy(Game& game, const RecoveryCopy& copy) {
+  if (!TakeRecoveryCopy(game, copy)) return;
   CloseStepThree(game);
   UpdateMainTitle(game, game.sheet.CharacterName);
 }
 
-}  // namespace
-
 std::vector<MenuItem> MainMenu() {
   return {
       {.Text = "&File",
-       .Items = {{.Id = kNewCharacter, .Text = "&New Character"},
-                 {.Id = kSave, .Text = "&Save"},
-                 {.Id = kLoad, .Text = "&Load"},
+       .Items = {{.Id = kNewCharacter, .Text = "&New Character", .Shortcut = "Ctrl+N"},
+                 {.Id = kSave, .Text = "&Save", .Shortcut = "Ctrl+S"},
+                 {.Id = kLoad, .Text = "&Load", .Shortcut = "Ctrl+O"},
                  {.Id = kRecover, .Text = "&Recover"},
-                 {.Id = kEdit, .Text = "&Edit"},
+                 {.Id = kUndo, .Text = "&Undo", .Shortcut = "Ctrl+Z"},
+                 {.Id = kRedo, .Text = "Re&do", .Shortcut = "Ctrl+Shift+Z"},
+                 {.Id = kSaveRun, .Text = "Save &this run..."},
+                 {.Id = kEdit, .Text = "&Edit", .Shortcut = "Ctrl+E"},
                  {.Id = kInputCharacter, .Text = "&Input own character"},
                  {.Id = kExit, .Text = "E&xit"}}},
       {.Text = "&Help",
@@ -75,10 +78,12 @@ std::vector<MenuItem> MainMenu() {
 
 void RunMainCommand(Game& game, int id) {
   switch (id) {
-    case kNewCharacter: return NewCharacter(game);
+    case kNewCharacter: return BeginCharacter(game);
     case kSave: return Save(game);
     case kLoad: return Load(game);
-    case kRecover: return RecoverCharacter(game);
+    case kRecover:
+      if (const auto copy = AskRecoveryCopy(game)) TakeChosenCopy(game, *copy);
+      return;
     case kEdit: return Edit(game, RunMainEdit);
     case kInputCharacter: return Edit(game, RunEnter);
     case kExit: return game.platform.CloseMainWindow();

@@ -4,6 +4,7 @@
 
 #include "platform/menu.h"
 #include "store/game.h"
+#include "store/recovery.h"
 
 namespace veld {
 
@@ -15,6 +16,9 @@ inline constexpr int kLoad = 3034;
 inline constexpr int kEdit = 3035;
 inline constexpr int kInputCharacter = 3036;
 inline constexpr int kRecover = 3037;
+inline constexpr int kUndo = 3038;
+inline constexpr int kRedo = 3039;
+inline constexpr int kSaveRun = 3040;
 inline constexpr int kCriticalHits = 3099;
 inline constexpr int kDiceTester = 5555;
 inline constexpr int kCustomItems = 5557;
@@ -25,7 +29,13 @@ inline constexpr int kHonorTracking = 5560;
 /// The main window's menu. Commands whose rooms are not built yet stand in it disabled.
 std::vector<MenuItem> MainMenu();
 
-/// Carries out a command of the main menu.
+/// Carries out a command of the main menu, all but those that go back to what was done (see MainSession).
 void RunMainCommand(Game& game, int id);
+
+/// New Character: another character begins with the first dice and the window of Step 3.
+void BeginCharacter(Game& game);
+
+/// Makes what was chosen in Recover the character or the party in memory.
+void TakeChosenCopy(Game& game, const RecoveryCopy& copy);
 
 }  // namespace veld

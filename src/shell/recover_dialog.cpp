@@ -2,7 +2,6 @@
 
 #include "platform/form.h"
 #include "platform/platform.h"
-#include "store/recovery.h"
 #include "text/format.h"
 
 namespace veld {
@@ -14,14 +13,15 @@ constexpr int kOk = 1;
 constexpr int kCancel = 2;
 
 constexpr ControlTemplate kRecoverControls[] = {
-    LabelAt(0, 0, "&Characters and parties that were in memory, the latest first"),
-    ListAt(1, 0, kCopies, 60, 3 * kRecoveryCopies),
+    LabelAt(0, 0, "&Runs to go on with, then characters and parties that were in memory"),
+    ListAt(1, 0, kCopies, 64, 3 * kRecoveryCopies),
     ButtonAt(2, 0, kOk, "&Recover", ButtonRole::Default),
     ButtonAt(2, 0, kCancel, "Cancel", ButtonRole::Cancel),
 };
 constexpr FormTemplate kRecoverTemplate{"Recover", "Recover", kRecoverControls};
 
 std::string LineOf(const RecoveryCopy& copy) {
+  if (copy.Kind == CopyKind::Run) return Format("Go on: %s, %s", copy.Name, copy.Time);
   if (copy.Kind == CopyKind::Party) return Format("Party, %s: %s", copy.Time, copy.Name);
   const char* const state = copy.Kind == CopyKind::Finished ? "" : ", unfinished";
   return Format("%s, %s, %s%s", copy.Name, copy.ClassName, copy.Time, state);
@@ -29,17 +29,15 @@ std::string LineOf(const RecoveryCopy& copy) {
 
 }  // namespace
 
-bool RunRecover(Game& game) {
-  const std::vector<RecoveryCopy> copies = RecoveryCopies();
+std::optional<RecoveryCopy> AskRecoveryCopy(Game& game) {
+  std::vector<RecoveryCopy> copies = RecoveryCopies();
   if (copies.empty()) {
     game.platform.ShowMessage("There is no character to recover.");
-    return false;
+    return std::nullopt;
   }
   Form form(kRecoverTemplate);
   std::vector<std::string> lines;
-  for (const RecoveryCopy& copy : copies) {
-    lines.push_back(LineOf(copy));
-  }
+  for (const RecoveryCopy& copy : copies) lines.push_back(LineOf(copy));
   form.SetItems(kCopies, std::move(lines));
   form.Select(kCopies, 0);
   int chosen = -1;
@@ -48,8 +46,11 @@ bool RunRecover(Game& game) {
     form.Close();
   };
   game.platform.RunForm(form);
-  if (chosen < 0) return false;
-  const RecoveryCopy& copy = copies[static_cast<std::size_t>(chosen)];
+  if (chosen < 0) return std::nullopt;
+  return std::move(copies[static_cast<std::size_t>(chosen)]);
+}
+
+bool TakeRecoveryCopy(Game& game, const RecoveryCopy& copy) {
   if (!Recover(game, copy)) {
     game.platform.ShowMessage("This file can not be loaded.");
     return false;

@@ -108,6 +108,7 @@ void ResetCharacter(Game& game) {
   game.sheet.PlayerName = playerName;
   game.isFinished = false;
   game.recoveryCopy.clear();
+  ++game.characters;
   for (std::size_t row = 0; row < kQuirkRows; ++row) game.run.QuirkBPCosts[row] = QuirkTable()[row].BPCost;
   for (EquipmentRecord& goods : game.EquipmentTable) goods.Quantity = 0;
   for (std::size_t row = 0; row < kEquipmentRows; ++row) {

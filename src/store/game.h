@@ -62,6 +62,8 @@ struct Game {
   bool isFinished = false;            ///< the character has come to the end of its generation, from a file or into one
   std::string recoveryCopy;           ///< which recovery copy is that of the character; empty: none yet
   Party party;                        ///< the referee's; no character's, and stays while characters come and go
+  std::string runCopy;                ///< which journal is that of the run; empty: none yet
+  int characters = 0;                 ///< how many have been in memory: another number, another character
   std::string partyCopy;              ///< which recovery copy is that of the party; empty: none yet
   CriticalHitNumbers criticalHits;
 

@@ -12,8 +12,10 @@
 #include <tuple>
 
 #include "platform/platform.h"
+#include "store/run_note.h"
 #include "text/format.h"
 #include "text/numbers.h"
+#include "text/utf8.h"
 
 namespace veld {
 
@@ -21,7 +23,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::array<std::string_view, kCopyKinds> kEndings = {"-unfinished.vlf", "-finished.vlf", "-party.vlp"};
+constexpr std::array<std::string_view, kCopyKinds> kEndings = {"-unfinished.vlf", "-finished.vlf", "-party.vlp",
+                                                               "-begun.run"};
 constexpr int kMostBegunInASecond = 1000;
 constexpr int kOldCopies = 5;  // of earlier versions
 
@@ -125,8 +128,12 @@ void DropOldCopies(const Game& game) {
   std::array<int, kCopyKinds> kept{};
   if (!game.recoveryCopy.empty()) kept[Index(CharacterKind(game))] = 1;
   if (!game.partyCopy.empty()) kept[Index(CopyKind::Party)] = 1;
+  if (!game.runCopy.empty()) kept[Index(CopyKind::Run)] = 1;
+  const auto stemInMemory = [&](CopyKind kind) -> const std::string& {
+    return kind == CopyKind::Party ? game.partyCopy : kind == CopyKind::Run ? game.runCopy : game.recoveryCopy;
+  };
   for (const CopyFile& copy : CopyFiles()) {
-    const bool isInMemory = copy.Stem == (copy.Kind == CopyKind::Party ? game.partyCopy : game.recoveryCopy);
+    const bool isInMemory = copy.Stem == stemInMemory(copy.Kind);
     if (isInMemory || ++kept[Index(copy.Kind)] <= kRecoveryCopies) continue;
     std::error_code ignored;
     if (!RunsElsewhere(WriterOf(copy.Stem))) fs::remove(copy.Path, ignored);
@@ -167,6 +174,15 @@ bool ReadParty(const std::string& path, Party& party) {
   return ReadWholeFile(path, bytes, kPartyFileBytes) == FileRead::Done && DecodeParty(bytes, party);
 }
 
+/// How far a run is that did not come to its end; empty for any other.
+std::string UnfinishedRunOf(const std::string& path) {
+  constexpr std::size_t kLargest = 16'000'000;
+  std::string text;
+  if (ReadWholeFile(path, text, kLargest) != FileRead::Done) return {};
+  const RunNote note = NoteOfRun(text);
+  return note.IsEnded ? std::string() : DisplayText(note.Text);
+}
+
 /// "Ada, Bo": who is in a party.
 std::string MemberNames(const Party& party) {
   std::string names;
@@ -202,12 +218,28 @@ bool RecoverParty(Game& game, const RecoveryCopy& copy) {
 }  // namespace
 
 void KeepRecoveryCopy(Game& game, SaveWay way) {
-  if (!IsBegun(game.sheet)) return;
+  if (!IsBegun(game.sheet) || game.platform.IsReplaying()) return;
   KeepCopy(game, CharacterKind(game), game.recoveryCopy, EncodeCharacter(game), way);
 }
 
 void KeepPartyCopy(Game& game, SaveWay way) {
   if (game.party.Count > 0) KeepCopy(game, CopyKind::Party, game.partyCopy, EncodeParty(game.party), way);
+}
+
+std::string NewRunPath(Game& game) {
+  game.runCopy = NewStem(game);
+  if (game.runCopy.empty()) return {};
+  std::error_code ignored;
+  fs::create_directory(kRecoveryFolder, ignored);
+  DropOldCopies(game);
+  return PathOf(game.runCopy, CopyKind::Run);
+}
+
+void DropRun(const RecoveryCopy& copy) {
+  for (const CopyFile& file : CopyFiles()) {
+    std::error_code ignored;
+    if (file.Path == copy.Path && !RunsElsewhere(WriterOf(file.Stem))) fs::remove(copy.Path, ignored);
+  }
 }
 
 std::vector<RecoveryCopy> RecoveryCopies() {
@@ -222,7 +254,10 @@ std::vector<RecoveryCopy> RecoveryCopies() {
   Party party;
   for (const CopyFile& file : files) {
     RecoveryCopy copy{file.Path, {}, {}, LocalMinute(file.WrittenAt.tv_sec), file.Kind};
-    if (file.Kind == CopyKind::Party) {
+    if (file.Kind == CopyKind::Run) {
+      copy.Name = UnfinishedRunOf(file.Path);
+      if (copy.Name.empty()) continue;
+    } else if (file.Kind == CopyKind::Party) {
       if (!ReadParty(file.Path, party)) continue;
       copy.Name = MemberNames(party);
     } else {
@@ -232,10 +267,13 @@ std::vector<RecoveryCopy> RecoveryCopies() {
     }
     copies.push_back(std::move(copy));
   }
+  std::stable_partition(copies.begin(), copies.end(),
+                        [](const RecoveryCopy& copy) { return copy.Kind == CopyKind::Run; });
   return copies;
 }
 
 bool Recover(Game& game, const RecoveryCopy& copy) {
+  if (copy.Kind == CopyKind::Run) return false;
   if (copy.Kind == CopyKind::Party) return RecoverParty(game, copy);
   const auto draft = std::make_unique<CharacterDraft>();
   if (!ReadDraft(copy.Path, *draft)) return false;  // read before the character in memory may push it out

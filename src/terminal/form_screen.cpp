@@ -22,6 +22,9 @@ constexpr int kSearchPause = 1000;  // milliseconds after which the letters type
 constexpr int kSidewaysStep = 8;    // cells that an arrow moves a list's rows
 constexpr std::string_view kCornerText = "< &Menu >";
 
+// What the line of keys does without when it is too long, the first of them first.
+constexpr std::string_view kKnownKeys[] = {"Alt+letter", "PgUp/PgDn scroll", "Space open", "Up/Down choose", "Tab"};
+
 PageMetrics TerminalMetrics(bool hasMenu) {
   PageMetrics m;
   m.TextWidth = [](std::string_view line, TextFace) { return CellsOf(line); };
@@ -49,6 +52,12 @@ std::string_view LineAt(const PlacedControl& placed, const Control& control, int
 std::int64_t Milliseconds() {
   return std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now().time_since_epoch())
       .count();
+}
+
+std::string Joined(const std::vector<std::string>& keys) {
+  std::string line;
+  for (const std::string& key : keys) line += (line.empty() ? "" : "  ") + key;
+  return line;
 }
 
 int Count(const std::vector<std::string>& lines) {
@@ -337,18 +346,21 @@ void FormScreen::DrawCorner() {
   if (isFocus) screen_.SetCursor(y, x + 2);
 }
 
-/// The keys that do something now.
+/// The keys that do something now, as many of them as the line holds.
 std::string FormScreen::KeysLine() const {
   const bool isControl = focus_ < form_.Controls().size();
   const ControlKind kind = isControl ? At(focus_).Template.Kind : ControlKind::Button;
-  std::string keys;
-  const auto add = [&](std::string_view key) { keys += (keys.empty() ? "" : "  ") + std::string(key); };
-  if (kind == ControlKind::List) add("Up/Down choose");
-  if (kind == ControlKind::Combo) add("Up/Down choose  Space open");
+  std::vector<std::string> keys;
+  const auto add = [&](std::string_view key) { keys.emplace_back(key); };
+  if (IsChosenFrom(kind)) add("Up/Down choose");
+  if (kind == ControlKind::Combo) add("Space open");
   if (IsMark(kind)) add("Space mark");
   if (kind == ControlKind::Text) add("Up/Down scroll");
   if (page_.Page.Height > view_.Height && kind != ControlKind::List) add("PgUp/PgDn scroll");
-  add("Tab  Alt+letter");
+  add("Tab");
+  add("Alt+letter");
+  if (form_.CanTakeBack()) add("F2 Undo");
+  if (form_.CanDoAgain()) add("F3 Redo");
   const int ofField = isControl ? At(focus_).Template.EnterPresses : 0;
   std::string enterInField;
   std::string enter;
@@ -367,7 +379,11 @@ std::string FormScreen::KeysLine() const {
   add("Esc " + escape);
   if (!form_.contextMenu.empty()) add("F9 Menu");
   if (place_ == Place::Window) add("F10 File");
-  return keys;
+  for (const std::string_view known : kKnownKeys) {
+    if (CellsOf(Joined(keys)) < screen_.Columns()) break;
+    std::erase(keys, known);
+  }
+  return Joined(keys);
 }
 
 // --- The focus -----------------------------------------------------------------------------------------------------
@@ -462,6 +478,10 @@ void FormScreen::HandleKey(const Key& key) {
     case KeyKind::MainMenu:
     case KeyKind::PageMenu:
       return OpenPageMenu();
+    case KeyKind::TakeBack:
+      return form_.CanTakeBack() ? form_.TakeBack() : screen_.Beep();
+    case KeyKind::DoAgain:
+      return form_.CanDoAgain() ? form_.DoAgain() : screen_.Beep();
     case KeyKind::Character:
       if (!PressLetter(key.Character)) screen_.Beep();
       return;

@@ -29,7 +29,8 @@ void SetUpLocale() {
 
 }  // namespace
 
-int main() {
+int main(int argc, char** argv) {
+  const std::string run = veld::RunToPlay(argc, argv);
   if (!isatty(STDIN_FILENO) || !isatty(STDOUT_FILENO)) {
     return Refuse("VELD needs a terminal to show its pages on: start it in one.");
   }
@@ -39,7 +40,7 @@ int main() {
     return Refuse("VELD does not know this kind of terminal: set TERM to one that it has, such as xterm.");
   try {
     veld::TerminalPlatform platform(*screen);
-    return veld::RunVeld(platform);
+    return veld::RunVeld(platform, run);
   } catch (const std::exception& error) {
     screen.reset();
     std::fprintf(stderr, "VELD stops: %s\n", error.what());

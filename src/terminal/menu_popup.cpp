@@ -156,6 +156,8 @@ MenuChoice MenuPopup::Run() {
       case KeyKind::Escape:
       case KeyKind::MainMenu:
       case KeyKind::PageMenu:
+      case KeyKind::TakeBack:
+      case KeyKind::DoAgain:
         return {};
       case KeyKind::Enter:
         choice = Enter();

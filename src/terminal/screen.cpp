@@ -143,6 +143,10 @@ KeyKind FunctionKey(wint_t code) {
     case KEY_F(9):
     case KEY_F(22):
       return KeyKind::PageMenu;
+    case KEY_F(2):
+      return KeyKind::TakeBack;
+    case KEY_F(3):
+      return KeyKind::DoAgain;
     default:
       return KeyKind::None;
   }

@@ -29,6 +29,8 @@ enum class KeyKind : std::uint8_t {
   ClearLine,  ///< Ctrl+U
   MainMenu,   ///< F10
   PageMenu,   ///< F9 or Shift+F10
+  TakeBack,   ///< F2
+  DoAgain,    ///< F3
 };
 
 struct Key {

@@ -25,6 +25,7 @@ class TerminalPlatform : public Platform {
   void BeginProgress(std::string_view caption, std::string_view text) override;
   bool ShowProgress(int percent) override;
   void EndProgress() override;
+  bool IsLost() const override { return screen_.IsLost(); }
   bool CopyText(std::string_view text) override;
 
  protected:

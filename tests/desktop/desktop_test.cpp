@@ -29,6 +29,7 @@
 #include <stdexcept>
 
 #include "platform/main_window.h"
+#include "support/counted_acts.h"
 
 namespace veld {
 namespace {
@@ -229,7 +230,7 @@ constexpr ControlTemplate kEntry[] = {
 };
 constexpr FormTemplate kEntryForm{"Entry", "Entry", kEntry};
 
-class Desktop : public testing::Test {
+class Desktop : public ::testing::Test {
  protected:
   DesktopPlatform platform{DesktopPlatform::Settings{.UsesNativeFileDialogs = false}};
   Player player;
@@ -443,6 +444,81 @@ TEST_F(Desktop, FormsNestOnOneCallStackAndExceptionsComeUpIt) {
   EXPECT_TRUE(form.IsClosed());
 }
 
+// --- Taking back -------------------------------------------------------------------------------------------------
+
+TEST_F(Desktop, KeysAndButtonsTakeBackAndTypingInAFieldGoesFirst) {
+  FillForm();
+  testing::CountedActs acts;
+  form.SetActs(&acts);
+  const auto button = [](const char* name) { return Top()->findChild<QPushButton*>(name); };
+  const auto press = [](Qt::Key key, Qt::KeyboardModifiers more = {}) { Press(key, Qt::ControlModifier | more); };
+  player.When("type", Dialog("Everything"), [&] {
+    EXPECT_FALSE(button("Undo")) << "nothing to take back yet";
+    Type("Ann");
+    press(Qt::Key_Z);
+    EXPECT_TRUE(form.Text(kName).empty() && acts.done == 4) << "the typing alone, and the form is told";
+    press(Qt::Key_Y);
+    EXPECT_EQ(form.Text(kName), "Ann");
+    Click(Id(kNotes));
+    Type("x");
+    press(Qt::Key_Z);
+    EXPECT_TRUE(form.Text(kNotes).empty() && acts.takenBack == 0);
+    form.Focus(kName);
+    Type("Bo");
+    Press(Qt::Key_W, Qt::AltModifier);
+  });
+  player.When(
+      "take back", [&] { return form.IsChecked(kWizard); },
+      [&] {
+        form.Focus(kName);
+        const int done = acts.done;
+        press(Qt::Key_Z);
+        EXPECT_TRUE(form.Text(kName) == "Bo" && acts.done == done - 1) << "the typing is not what was done last";
+        QTest::simulateEvent(Top()->windowHandle(), true, Qt::Key_Z, Qt::ControlModifier, {}, true);
+        EXPECT_EQ(acts.takenBack, 1) << "a key held down";
+        form.Focus(kList);
+        press(Qt::Key_Z);
+        press(Qt::Key_Z, Qt::ShiftModifier);
+        EXPECT_TRUE(acts.takenBack == 1 && button("Redo")->isVisible());
+        for (const QLabel* label : Top()->findChildren<QLabel*>()) {
+          EXPECT_FALSE(label->geometry().intersects(button("Redo")->geometry())) << qPrintable(label->text());
+        }
+        Click(button("Redo"));
+        EXPECT_FALSE(acts.takenBack == 1 || button("Redo")->isVisible());
+        Click(button("Undo"));
+        EXPECT_TRUE(acts.takenBack == 1 && Top()->focusWidget() == Id(kList));
+        Click(Id(kCombo));
+      });
+  player.When("open list", HasPopup, [&] {
+    Press(QApplication::activePopupWidget(), Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_TRUE(!HasPopup() && acts.takenBack == 1) << "goes first, alone";
+    Press(Qt::Key_Escape);
+  });
+  Play();
+}
+
+TEST_F(Desktop, WhatIsTakenBackMayCloseItsForm) {
+  FillForm();
+  testing::CountedActs acts;
+  form.onCommand = [&](int id) {
+    commands.push_back(id);
+    if (id != kOpen) return form.Close();
+    Form entry(kEntryForm);
+    entry.SetActs(&acts);
+    acts.onTakeBack = [&] { entry.Close(); };
+    platform.RunForm(entry);
+  };
+  form.SetActs(&acts);
+  player.When("open", Dialog("Everything"), [] { Click(Id(kOpen)); });
+  player.When("button", Dialog("Entry"), [] { Click(Top()->findChild<QPushButton*>("Undo")); });
+  player.When("leave", Dialog("Everything"), [] {
+    EXPECT_TRUE(Top()->findChild<QPushButton*>("Redo")->isVisible()) << "of what was done in the other";
+    Press(Qt::Key_Escape);
+  });
+  Play();
+  EXPECT_EQ(commands, (std::vector<int>{kOpen, kCancel}));
+}
+
 // --- The main window ---------------------------------------------------------------------------------------------
 
 void ChooseFromMenuBar(int menu, int item) {
@@ -460,7 +536,7 @@ class DesktopMain : public Desktop {
  protected:
   MainWindow window{.Title = "Toolkit",
                     .Menu = {{.Text = "&File",
-                              .Items = {{.Id = 50, .Text = "&New"},
+                              .Items = {{.Id = 50, .Text = "&New", .Shortcut = "Ctrl+N"},
                                         {.Id = 51, .Text = "&Later", .Enabled = false},
                                         {.Id = 52, .Text = "E&xit"}}}}};
   // With memory of its own, which goes when the form does: the sanitizer sees who uses it afterwards.
@@ -544,7 +620,7 @@ TEST_F(DesktopMain, AWindowThatReplacesAnotherOutlivesItAndExitLeaves) {
 TEST_F(DesktopMain, WhatAMenuCommandThrowsComesOutOfTheMainWindow) {
   window.onCommand = [](int) { throw std::runtime_error("lost"); };
   const auto hasMenu = [] { return Window("Toolkit")() && WindowTitled("Toolkit")->findChild<QMenuBar*>(); };
-  player.When("choose", hasMenu, [] { ChooseFromMenuBar(0, 0); });
+  player.When("choose", hasMenu, [] { Press(WindowTitled("Toolkit"), Qt::Key_N, Qt::ControlModifier); });
   player.Start();
   EXPECT_THROW(platform.RunMainWindow(window), std::runtime_error);
 }

@@ -47,6 +47,7 @@
 #include "steps/spells/spell_selection.h"
 #include "store/recovery.h"
 #include "store/side_files.h"
+#include "support/counted_acts.h"
 #include "support/random_player.h"
 #include "support/scripted_platform.h"
 #include "terminal/terminal_platform.h"
@@ -134,7 +135,7 @@ const Dialog kDialogs[] = {
     {"Recover",
      [](Game& game) {
        KeepRecoveryCopy(game);
-       RunRecover(game);
+       AskRecoveryCopy(game);
      }},
     {"About VELD", RunAbout, true},
     {"GM - Honor Tracking System", RunHonorTracking},
@@ -259,6 +260,38 @@ TEST(TerminalDialogsTest, LongWorkShowsHowFarItIsAndIsCancelled) {
   program.Type(kEscapeKey);
   EXPECT_TRUE(program.WaitUntilShown("Cancelled.")) << program.Shows();
   program.Press(kEnterKey);
+  EXPECT_EQ(program.WaitForEnd(), 0);
+}
+
+/// The title tells how many acts are left.
+void RunWithActs(Game& game) {
+  enum : int { kRows = 10, kOk = 1 };
+  constexpr ControlTemplate kControls[] = {ListAt(0, 0, kRows, 20, 3, 3),
+                                           ButtonAt(1, 0, kOk, "Go on with the next of the steps", ButtonRole::Cancel)};
+  Form form({"Acts", "Acts", kControls});
+  CountedActs acts;
+  form.onOpened = [&] { form.SetItems(kRows, {"one", "two", "three"}); };
+  form.onCommand = [&](int) { form.Close(); };
+  form.contextMenu = {{.Id = 40, .Text = "Nothing"}};
+  acts.onTakeBack = [&] { form.SetTitle("Left " + std::to_string(acts.done)); };
+  form.SetActs(&acts);
+  game.platform.RunForm(form);
+}
+
+TEST(TerminalDialogsTest, WhatWasDoneIsTakenBackByKeyAndTheKeysAreToldWhenTheyDoSomething) {
+  TestFolder folder;
+  PtyProgram program([] { return RunAtTerminal({"Acts", RunWithActs}); });
+  EXPECT_FALSE(program.Shows("F2")) << program.Shows();
+  program.Press(kDownKey, 2);
+  program.Press(kPageMenuKey);
+  program.Press(kUndoKey);
+  EXPECT_EQ(program.Title(), "Acts") << "an open menu goes first";
+  program.Press(kUndoKey);
+  EXPECT_EQ(program.Title(), "Left 1") << program.Shows();
+  EXPECT_EQ(program.KeysLine(), " Tab  F2 Undo  F3 Redo  Esc Go on with the next of the steps  F9 Menu");
+  program.Press(kRedoKey);
+  EXPECT_FALSE(program.Shows("F3")) << program.Shows();
+  program.Press(kEscapeKey);
   EXPECT_EQ(program.WaitForEnd(), 0);
 }
 
