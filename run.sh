@@ -12,7 +12,12 @@ if [ "${1:-}" = --terminal ] || { [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] && [
   fi
   scripts/install-packages.sh g++ cmake ninja-build libncurses-dev
   scripts/configure.sh terminal
-  cmake --build build/terminal --target veld-terminal veld_data -- --quiet
+  if [ -x build/terminal/bin/veld-terminal ]; then
+    cmake --build build/terminal --target veld-terminal veld_data -- --quiet
+  else
+    echo "Building VELD, about a minute the first time."
+    cmake --build build/terminal --target veld-terminal veld_data
+  fi
   exec build/terminal/bin/veld-terminal "$@"
 fi
 
@@ -20,5 +25,10 @@ packages=(g++ cmake ninja-build qt6-base-dev libqt6widgets6 fonts-liberation lib
 [ -n "${DISPLAY:-}" ] || [ -z "${WAYLAND_DISPLAY:-}" ] || packages+=(qt6-wayland)  # a session without X
 scripts/install-packages.sh "${packages[@]}"
 scripts/configure.sh release
-cmake --build build/release --target veld veld_data -- --quiet
+if [ -x build/release/bin/veld ]; then
+  cmake --build build/release --target veld veld_data -- --quiet
+else
+  echo "Building VELD, about a minute the first time."
+  cmake --build build/release --target veld veld_data
+fi
 exec build/release/bin/veld "$@"

@@ -7,6 +7,7 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QRegularExpressionValidator>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <algorithm>
@@ -53,6 +54,10 @@ QWidget* MakeEdit(const Control& control, QWidget* page) {
   auto* edit = new QLineEdit(page);
   edit->setReadOnly(control.Template.IsReadOnly);
   edit->setTextMargins(3, 0, 3, 0);
+  if (control.Template.Kind == ControlKind::Number) {
+    static const QRegularExpression kNumber("[+-]?[0-9]*");
+    edit->setValidator(new QRegularExpressionValidator(kNumber, edit));
+  }
   return edit;
 }
 

@@ -147,9 +147,12 @@ class PaperLook : public QProxyStyle {
     const bool isDefault = button && button->features.testFlag(QStyleOptionButton::DefaultButton);
     const bool isDown = Has(option, State_Sunken) || Has(option, State_On);
     const bool isEnabled = Has(option, State_Enabled);
-    const QRgb fill = isDown ? kRuleColor : isEnabled && Has(option, State_MouseOver) ? kWashColor : 0xfff8fafd;
-    const QRgb edge = !isEnabled ? kRuleColor : isDefault ? kInkColor : kEdgeColor;
+    const bool hasFocus = isEnabled && Has(option, State_HasFocus);
+    const bool isLit = hasFocus || (isEnabled && Has(option, State_MouseOver));
+    const QRgb fill = isDown ? kRuleColor : isLit ? kWashColor : 0xfff8fafd;
+    const QRgb edge = !isEnabled ? kRuleColor : isDefault || hasFocus ? kInkColor : kEdgeColor;
     DrawBox(painter, option->rect, fill, edge, 3, isDefault && isEnabled ? 1.8 : 1);
+    if (hasFocus) DrawBox(painter, option->rect.adjusted(3, 3, -3, -3), fill, kInkColor, 2);
   }
 
   static void DrawFocus(const QStyleOption* option, QPainter* painter) {

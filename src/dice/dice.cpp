@@ -230,10 +230,18 @@ int RollHitPointDice(Game& game, int sides, int count) {
 }
 
 void RollAbilityScores(Game& game) {
-  for (int ability = 0; ability < kAbilityCount; ++ability) AbilityAt(game.sheet, ability).Whole = RollDice(game, 6, 3);
+  constexpr int kRolls = 2 * kAbilityCount;
+  const std::string purpose = game.dice.RollPurpose;
   for (int ability = 0; ability < kAbilityCount; ++ability) {
+    game.dice.RollPurpose = Format("%s (3d6), %i of %i", AbilityName(ability), ability + 1, kRolls);
+    AbilityAt(game.sheet, ability).Whole = RollDice(game, 6, 3);
+  }
+  for (int ability = 0; ability < kAbilityCount; ++ability) {
+    game.dice.RollPurpose =
+        Format("%s, percent (1d100), %i of %i", AbilityName(ability), kAbilityCount + ability + 1, kRolls);
     AbilityAt(game.sheet, ability).Percentile = RollDice(game, 100, 1);
   }
+  game.dice.RollPurpose = purpose;
 }
 
 }  // namespace veld

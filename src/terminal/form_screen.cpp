@@ -520,7 +520,17 @@ bool FormScreen::HandleControlKey(const Key& key) {
   return true;
 }
 
+/// A field for numbers takes digits and a sign only.
+bool FormScreen::IsForeignKey(const Key& key) const {
+  if (At(focus_).Template.Kind != ControlKind::Number || key.Kind != KeyKind::Character || key.IsAlt) return false;
+  return key.Character > U'9' || (key.Character < U'0' && key.Character != U'-' && key.Character != U'+');
+}
+
 bool FormScreen::HandleFieldKey(const Key& key) {
+  if (IsForeignKey(key)) {
+    screen_.Beep();
+    return true;
+  }
   const std::size_t field = focus_;
   const ControlTemplate& control = At(field).Template;
   View& view = views_[field];

@@ -75,6 +75,7 @@ class FormScreen : public Layer, private FormObserver {
   // Keys.
   bool HandleControlKey(const Key& key);
   bool HandleFieldKey(const Key& key);
+  bool IsForeignKey(const Key& key) const;
   bool HandleListKey(const Key& key);
   bool HandleTextKey(const Key& key);
   bool HandleComboKey(const Key& key);

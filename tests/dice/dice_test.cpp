@@ -137,10 +137,17 @@ TEST_F(DiceTest, HitPointsHaveAFloorByConstitution) {
 
 TEST_F(DiceTest, TypedDiceAreAskedForUntilTheyArePossible) {
   TypeDice();
-  ExpectTyped("2");
-  ExpectTyped("19");
-  ExpectTyped("");
-  ExpectTyped("18");
+  platform.ExpectForm("GetDice", [](Form& form) {
+    EXPECT_EQ(form.Text(12), "3 to 18");
+    for (const char* impossible : {"2", "19", ""}) {
+      form.Type(3000, impossible);
+      form.PressDefault();
+      EXPECT_FALSE(form.IsClosed());
+      EXPECT_EQ(form.Text(13), "Type what your dice show: 3 to 18. Or leave the roll to VELD.");
+    }
+    form.Type(3000, "18");
+    form.PressDefault();
+  });
   game->dice.DiceLabel = "a label that a plain roll never keeps";
   EXPECT_EQ(RollDice(*game, 6, 3), 18);
   EXPECT_EQ(LastLogLine(), "VELD needs a roll of: 3d6. User input: ");

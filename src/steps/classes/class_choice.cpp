@@ -84,9 +84,21 @@ bool IsOpenToRace(const Game& game, int classRow) {
   return row >= 0 && RaceTable()[Index(row)].ClassLevelLimits[Index(classRow)] != 0;
 }
 
+/// A limit of an ability as players write it: 16 or 16/50.
+std::string LimitText(float limit) {
+  const int whole = TruncateToInt(limit);
+  const int percent = TruncateToInt((limit - static_cast<float>(whole)) * 100 + 0.5F);
+  return percent == 0 ? Format("%i", whole) : Format("%i/%i", whole, percent);
+}
+
 void AddSentence(std::string& text, const std::string& sentence) {
   if (!text.empty()) text += ' ';
   text += sentence;
+}
+
+/// A score that counts as `value`, as the page writes it.
+std::string ScoreText(const Game& game, float value, int ability) {
+  return Format("%i/%i", TruncateToInt(value), AbilityAt(game.sheet, ability).Percentile);
 }
 
 void AddAbilityReasons(std::string& reasons, const Game& game, const Candidate& candidate, int classRow) {
@@ -95,9 +107,11 @@ void AddAbilityReasons(std::string& reasons, const Game& game, const Candidate& 
     const AbilityNumberRange& range = ClassTable()[Index(classRow)].AbilityRange[Index(ability)];
     const float value = abilities[Index(ability)];
     if (value < range.Minimum) {
-      AddSentence(reasons, Format("Needs %s %g, yours is %g.", AbilityName(ability), range.Minimum, value));
+      AddSentence(reasons, Format("Needs %s %s, yours is %s.", AbilityName(ability), LimitText(range.Minimum),
+                                  ScoreText(game, value, ability)));
     } else if (value > range.Maximum) {
-      AddSentence(reasons, Format("%s may be %g at most, yours is %g.", AbilityName(ability), range.Maximum, value));
+      AddSentence(reasons, Format("%s may be %s at most, yours is %s.", AbilityName(ability), LimitText(range.Maximum),
+                                  ScoreText(game, value, ability)));
     }
   }
 }

@@ -21,7 +21,7 @@ constexpr std::size_t kNeutral = 4;
 
 constexpr ControlTemplate kStepFourteenControls[] = {
     TitleAt(0, 0, "Step 14: Choose an Alignment"),
-    ListAt(1, 0, kAlignments, 32, 9),
+    ListAt(1, 0, kAlignments, 32, kAlignmentCount + 1),
     ButtonAt(2, 0, kOk, "&OK", ButtonRole::Default),
     ButtonAt(2, 0, kAbort, "&Abort", ButtonRole::Cancel),
 };

@@ -13,6 +13,7 @@ namespace {
 enum : int {
   kOk = 1,
   kAbort = 2,
+  kNext = 50,
   kMoneyText = 55,
   kBuildingPoints = 90,
   kAge = 91,
@@ -37,8 +38,9 @@ constexpr ControlTemplate kStepTenControls[] = {
     ResultAt(3, 2, kMoney, kNumberWidth),
     HeadingAt(4, 0, "Money Special", 3),
     TextAt(5, 0, kMoneyText, "", 58, 2, 1, 3),
-    ButtonAt(6, 0, kOk, "&OK", ButtonRole::Default),
-    ButtonAt(6, 0, kAbort, "&Abort", ButtonRole::Cancel),
+    ResultAt(6, 0, kNext, 40),
+    ButtonAt(7, 0, kOk, "&OK", ButtonRole::Default),
+    ButtonAt(7, 0, kAbort, "&Abort", ButtonRole::Cancel),
 };
 constexpr FormTemplate kStepTen{"StepTen", "Step 10", kStepTenControls};
 
@@ -49,7 +51,17 @@ struct StepTenRolls {
   int Age = 0;
 };
 
+/// Says what comes next, and goes there: Enter pressed again must not pay for the same roll once more.
+void ShowNext(const StepTenRolls& rolls, Form& form) {
+  const int next = !rolls.HasAge ? kRollAge : !rolls.HasMoney ? kRollMoney : kOk;
+  form.SetText(kNext, next == kRollAge     ? "Next: Class Adjusted Age"
+                      : next == kRollMoney ? "Next: Starting Money"
+                                           : "Next: OK");
+  form.Focus(next);
+}
+
 void ShowStepTen(const Game& game, const StepTenRolls& rolls, Form& form) {
+  ShowNext(rolls, form);
   form.SetNumber(kBuildingPoints, TruncateToInt(game.run.BuildingPoints));
   if (rolls.HasAge) form.SetNumber(kAge, rolls.Age);
   if (!rolls.HasMoney) return;

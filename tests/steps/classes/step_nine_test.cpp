@@ -85,10 +85,10 @@ TEST_F(StepNineTest, BirthBooksAndRaceDecideWhatIsOffered) {
 
   game->sheet.Dexterity = {14, 99};
   game->sheet.Strength = {15, 100};
-  EXPECT_TRUE(Explains(kCavalier, "Needs Dexterity 15, yours is 14.99."));
+  EXPECT_TRUE(Explains(kCavalier, "Needs Dexterity 15, yours is 14/99."));
   EXPECT_FALSE(Explains(kCavalier, "Strength"));
   game->sheet.Wisdom = {18, 1};
-  EXPECT_TRUE(Explains(4, "Wisdom may be 17 at most, yours is 18.1."));
+  EXPECT_TRUE(Explains(4, "Wisdom may be 17 at most, yours is 18/1."));
 }
 
 TEST_F(StepNineTest, AFlawOfAnAlmanacLeavesItsGroupForGood) {
@@ -110,7 +110,7 @@ TEST_F(StepNineTest, AGnomeTitansIntelligenceCountsOneMoreForABattleMage) {
   BecomeRace("Gnome Titan");
   game->sheet.Intelligence = {8, 50};
   EXPECT_TRUE(Offers(kBattleMage));
-  EXPECT_TRUE(Explains(12, "Needs Intelligence 9, yours is 8.5."));
+  EXPECT_TRUE(Explains(12, "Needs Intelligence 9, yours is 8/50."));
   game->sheet.Intelligence = {7, 99};
   EXPECT_FALSE(Offers(kBattleMage));
 }
