@@ -10,7 +10,7 @@ if [ "${1:-}" = --terminal ] || { [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] && [
     echo "VELD needs a display or a terminal: start it inside a graphical session or in a terminal, or under Xvfb with 'xvfb-run ./run.sh'." >&2
     exit 1
   fi
-  scripts/install-packages.sh g++ cmake ninja-build libncurses-dev
+  scripts/install-packages.sh g++ cmake ninja-build libncurses-dev libcairo2-dev libpango1.0-dev fonts-liberation
   scripts/configure.sh terminal
   if [ -x build/terminal/bin/veld-terminal ]; then
     cmake --build build/terminal --target veld-terminal veld_data -- --quiet
@@ -21,7 +21,7 @@ if [ "${1:-}" = --terminal ] || { [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] && [
   exec build/terminal/bin/veld-terminal "$@"
 fi
 
-packages=(g++ cmake ninja-build qt6-base-dev libqt6widgets6 fonts-liberation libncurses-dev)
+packages=(g++ cmake ninja-build qt6-base-dev libqt6widgets6 fonts-liberation libncurses-dev libcairo2-dev libpango1.0-dev)
 [ -n "${DISPLAY:-}" ] || [ -z "${WAYLAND_DISPLAY:-}" ] || packages+=(qt6-wayland)  # a session without X
 scripts/install-packages.sh "${packages[@]}"
 scripts/configure.sh release

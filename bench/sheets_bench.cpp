@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "print/print_save.h"
 #include "sheets/html_sheet.h"
 #include "sheets/tab_sheet.h"
 #include "sheets/text_sheet.h"
@@ -60,6 +61,31 @@ BENCHMARK(WriteSheet<TextSheet>)->Name("TextSheet, promised below 2 ms")->Unit(b
 BENCHMARK(WriteSheet<TabSheet>)->Name("TabSheet, promised below 2 ms")->Unit(benchmark::kMicrosecond);
 BENCHMARK(WriteSheet<HtmlSheet>)->Name("HtmlSheet, promised below 5 ms")->Unit(benchmark::kMicrosecond);
 BENCHMARK(WriteSheet<XmlSheet>)->Name("XmlSheet, promised below 10 ms")->Unit(benchmark::kMicrosecond);
+
+/// A character's sheet on paper, with as many spells.
+void WritePdf(benchmark::State& state) {
+  static SilentPlatform platform;
+  auto game = MakeGame(platform);
+  game->dice.LogMode = DiceLogMode::Off;
+  DecodeEquipment(DataFile("equip.vlb"), game->EquipmentTable);
+  DecodeSpells(DataFile("spells.vld"), game->SpellTable);
+  CharacterSheet& sheet = game->sheet;
+  sheet.RaceName = "Human";
+  sheet.ClassName = state.range(0) > 0 ? "Magic-User" : "Fighter";
+  sheet.ClassExperience.fill(1);
+  for (std::size_t row = 0; row < 40; ++row) game->EquipmentTable[row * 20].Quantity = 1;
+  for (std::size_t row = 0; row < static_cast<std::size_t>(state.range(0)); ++row) sheet.SpellsKnown[row * 6] = 1;
+  for (const std::size_t row : {10U, 50U, 90U, 130U, 170U, 210U}) {
+    sheet.QuirkCounts[row] = sheet.ProficiencyLevels[row / 2] = sheet.TalentCounts[row / 2] = 1;
+    for (std::size_t i = 0; i < 5; ++i) sheet.SkillScores[row + i] = 40;
+  }
+  sheet.Notes = std::string(1000, 'n');
+  std::size_t bytes = 0;
+  for (auto _ : state) bytes = PdfSheet(*game).size();
+  state.counters["bytes"] = static_cast<double>(bytes);
+}
+BENCHMARK(WritePdf)->Name("PdfSheet, promised below 40 ms")->Arg(0)->Unit(benchmark::kMicrosecond);
+BENCHMARK(WritePdf)->Name("PdfSheet with spells, promised below 80 ms")->Arg(60)->Unit(benchmark::kMicrosecond);
 
 template <std::string (*Sheet)(Game&)>
 void FloorCopySheet(benchmark::State& state) {

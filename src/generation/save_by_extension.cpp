@@ -1,6 +1,7 @@
 #include "generation/save_by_extension.h"
 
 #include "platform/platform.h"
+#include "print/print_save.h"
 #include "sheets/sheet_save.h"
 #include "steps/race/step_three.h"
 #include "store/character_file.h"
@@ -15,6 +16,7 @@ namespace {
 constexpr FileFilter kSaveFilters[] = {
     {"Quellmarch Files (*.VLF)", ".vlf"}, {"Text Files (*.TXT)", ".txt"},           {"HTML Files (*.HTML)", ".html"},
     {"HTM Files  (*.HTM)", ".htm"},       {"Tab Seperated Files  (*.CSV)", ".csv"}, {"XML Files  (*.XML)", ".xml"},
+    {"PDF Files (*.PDF)", ".pdf"},
 };
 constexpr FileFilter kLoadFilters[] = {{"Quellmarch Files (*.VLF)", ".vlf"}};
 
@@ -33,6 +35,8 @@ void SaveByExtension(Game& game, const std::string& path) {
     SaveXmlSheet(game, path);
   } else if (has(".csv") || has(".CSV")) {
     SaveTabSheet(game, path);
+  } else if (has(".pdf") || has(".PDF")) {
+    SavePdfSheet(game, path);
   } else {
     game.platform.ShowMessage("Problem Saving Character: invalid file extension");
   }

@@ -117,15 +117,19 @@ std::vector<HeldAbility> HeldTalents(const CharacterSheet& sheet) {
     const std::string_view name = TrimRight(TalentTable()[row].Name);
     const int count = sheet.TalentCounts[row];
     if (count <= 0 || name.empty()) continue;
-    held.push_back({std::string(name), count, Contains(name, "Bonus") ? "x%i" : Contains(name, "Lucky") ? "d%i" : ""});
+    held.push_back({std::string(name), count,
+                    Contains(name, "Bonus")   ? "x%i"
+                    : Contains(name, "Lucky") ? "d%i"
+                                              : "",
+                    TalentTable()[row].Page});
   }
   for (std::size_t family = 0; family < kDetailRows; ++family) {
     const std::string_view name = TrimRight(TalentTable2()[family].Name);
     for (std::size_t item = 0; item < kDetailRows; ++item) {
       const int count = sheet.TalentDetailCounts[family][item];
       if (count <= 0) continue;
-      held.push_back(
-          {ItemName(name, sheet.TalentDetailNames[family][item]), count, Contains(name, "Bonus") ? "x%i" : ""});
+      held.push_back({ItemName(name, sheet.TalentDetailNames[family][item]), count,
+                      Contains(name, "Bonus") ? "x%i" : "", TalentTable2()[family].Page});
     }
   }
   return held;
@@ -135,13 +139,15 @@ std::vector<HeldAbility> HeldSkills(const CharacterSheet& sheet) {
   std::vector<HeldAbility> held;
   for (std::size_t row = 0; row < kSkillRows; ++row) {
     const std::string_view name = TrimRight(SkillTable()[row].Name);
-    if (sheet.SkillScores[row] > 0 && !name.empty()) held.push_back({std::string(name), sheet.SkillScores[row]});
+    const int score = sheet.SkillScores[row];
+    if (score > 0 && !name.empty()) held.push_back({std::string(name), score, {}, SkillTable()[row].Page});
   }
   for (std::size_t family = 0; family < kDetailRows; ++family) {
     const std::string_view name = TrimRight(SkillTable2()[family].Name);
     for (std::size_t item = 0; item < kDetailRows; ++item) {
       const int score = sheet.SkillDetailCounts[family][item];
-      if (score > 0) held.push_back({ItemName(name, sheet.SkillDetailNames[family][item]), score});
+      if (score <= 0) continue;
+      held.push_back({ItemName(name, sheet.SkillDetailNames[family][item]), score, {}, SkillTable2()[family].Page});
     }
   }
   return held;

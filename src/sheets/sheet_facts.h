@@ -58,6 +58,7 @@ struct HeldAbility {
   std::string Name;
   int Amount;                     ///< times taken; percent of mastery
   std::string_view Measure = {};  ///< how the amount of a talent is told, "x%i"; empty where there is no measure of it
+  std::string_view Page = {};     ///< of the books, "ADC pg 337"
 };
 std::vector<HeldAbility> HeldTalents(const CharacterSheet& sheet);
 std::vector<HeldAbility> HeldSkills(const CharacterSheet& sheet);

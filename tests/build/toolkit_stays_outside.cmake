@@ -1,12 +1,14 @@
 # cmake -DSOURCE_DIR=... -P toolkit_stays_outside.cmake: fails if a file of src outside the front ends includes a header
-# of a window toolkit or of a front end, or if its folder links one. The compiler alone does not hold this: the headers of
-# ncurses lie where every include finds them.
+# of a window toolkit or of a front end, or if its folder links one; and the same of the drawing libraries outside src/print.
+# The compiler alone does not hold this: the headers of ncurses lie where every include finds them.
 
 set(line_start "(^|\n)[ \t]*#[ \t]*include[ \t]*[<\"]")
 set(qt_header "${line_start}(Q[A-Za-z0-9]+[>/]|q[a-z0-9_]+\\.h|[^>\"\n]*qt6?/)")
 set(curses_header "${line_start}[^>\"\n]*(curses|term\\.h>|termcap\\.h|panel\\.h>|eti\\.h)")
+set(drawing_header "${line_start}[^>\"\n]*(cairo|pango|glib|gobject|fontconfig)")
 set(front_end_header "${line_start}(desktop|terminal)/")
 set(toolkit_library "Qt6|CURSES|[Nn]curses|veld_desktop|veld_terminal|USES[^)]*(desktop|terminal)")
+set(drawing_library "CAIRO|[Cc]airo|[Pp]ango")
 
 # The patterns are worth something only as long as they find what they are for, and leave our own headers alone.
 function(expect_match pattern text)
@@ -18,9 +20,11 @@ expect_match("${qt_header}" "#include \"rules/ability.h\"\n#include <QWidget>")
 expect_match("${qt_header}" "# include <QtCore/QString>")
 expect_match("${qt_header}" "#include <qglobal.h>")
 expect_match("${curses_header}" "#include <ncursesw/ncurses.h>")
+expect_match("${drawing_header}" "#include <pango/pangocairo.h>")
+expect_match("${drawing_library}" "target_link_libraries(veld_text PUBLIC PkgConfig::PANGOCAIRO)")
 expect_match("${front_end_header}" "#include \"desktop/paper.h\"")
 expect_match("${toolkit_library}" "veld_library(rules SOURCES a.cpp\n  USES text desktop)")
-foreach(pattern IN ITEMS "${qt_header}" "${curses_header}" "${front_end_header}")
+foreach(pattern IN ITEMS "${qt_header}" "${curses_header}" "${drawing_header}" "${front_end_header}")
   if("#include \"rules/quirk_table.h\"\n#include \"platform/form.h\"\n#include <queue>" MATCHES "${pattern}")
     message(FATAL_ERROR "The check is broken: it takes a header of ours for a toolkit's")
   endif()
@@ -41,7 +45,14 @@ set(checked 0)
 foreach(file IN LISTS files)
   if(file STREQUAL "CMakeLists.txt")
     continue()
-  elseif(file MATCHES "^desktop/")
+  endif()
+  if(NOT file MATCHES "^print/")
+    forbid("${file}" "${drawing_header}" "includes Cairo or Pango, which are src/print's alone")
+    if(file MATCHES "CMakeLists.txt$")
+      forbid("${file}" "${drawing_library}" "links Cairo or Pango")
+    endif()
+  endif()
+  if(file MATCHES "^desktop/")
     forbid("${file}" "${curses_header}" "includes ncurses")
   elseif(file MATCHES "^terminal/.*\\.(cpp|h)$")
     forbid("${file}" "${qt_header}" "includes Qt")

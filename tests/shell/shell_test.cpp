@@ -83,7 +83,8 @@ TEST_F(ShellTest, TheExtensionAnywhereInThePathChoosesTheWriter) {
   constexpr std::pair<const char*, std::string_view> kSheets[] = {
       {"hero.txt", "     "},    {"hero.TXT", "     "},           {"hero.csv", "Name \t "},
       {"hero.CSV", "Name \t "}, {"hero.htm", "<!DOCTYPE html>"}, {"hero.html", "<!DOCTYPE html>"},
-      {"hero.xml", "<?xml"},    {"hero.XML", "<?xml"}};
+      {"hero.xml", "<?xml"},    {"hero.XML", "<?xml"},           {"hero.pdf", "%PDF-"},
+      {"hero.PDF", "%PDF-"}};
   for (const auto& [path, start] : kSheets) {
     SaveByExtension(*game, path);
     EXPECT_TRUE(FileText(path).starts_with(start)) << path;

@@ -11,6 +11,9 @@
 #include "text/numbers.h"
 #include "text/search.h"
 
+/// What fontconfig keeps, it keeps by offsets, which the search for lost memory can't follow.
+extern "C" const char* __lsan_default_suppressions() { return "leak:libfontconfig"; }
+
 namespace veld::testing {
 
 void ChooseText(Form& form, int id, std::string_view text) {

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "print/pieces.h"
+#include "sheets/sheet_content.h"
+#include "store/game.h"
+
+namespace veld {
+
+/// The first page, to play from: who it is, abilities and what they give, saving throws, hit points to tick, weapons,
+/// movement, Honor, the abilities of the class, experience. What finds no room on it goes on to the next.
+void PlaceTablePage(PageFlow& flow, const Game& game, const SheetContent& content);
+
+}  // namespace veld
