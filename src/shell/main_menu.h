@@ -26,7 +26,7 @@ inline constexpr int kDiceRoller = 5558;
 inline constexpr int kOptions = 5559;
 inline constexpr int kHonorTracking = 5560;
 
-/// The main window's menu. Commands whose rooms are not built yet stand in it disabled.
+/// The main window's menu.
 std::vector<MenuItem> MainMenu();
 
 /// Carries out a command of the main menu, all but those that go back to what was done (see MainSession).

@@ -10,8 +10,6 @@
 
 namespace veld {
 
-namespace {}  // namespace
-
 ClassTotals SumClasses(const Game& game, std::size_t rows) {
   const CharacterSheet& sheet = game.sheet;
   ClassTotals totals;
