@@ -11,7 +11,7 @@ namespace veld {
 namespace {
 
 constexpr ControlTemplate kControls[] = {ListAt(0, 0, kClassList, 30, 10)};
-constexpr FormTemplate kForm{"Classes", "Classes", kControls};
+constexpr FormTemplate kForm{"Classes", "Classes", kControls, ""};
 
 std::unique_ptr<Game> StrongHuman(Platform& platform) {
   auto game = MakeGame(platform);

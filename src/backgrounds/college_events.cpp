@@ -106,7 +106,10 @@ constexpr ControlTemplate kBandGeekControls[] = {
     ButtonAt(2, 0, kFirstInstrument + 1, "&Percussion Instrument"),
     ButtonAt(3, 0, kFirstInstrument + 2, "&Wind Instrument"),
 };
-constexpr FormTemplate kBandGeek{"BandGeek", "Pick and instrument, Band Geek!", kBandGeekControls};
+constexpr std::string_view kBandGeekHelp =
+    "His school years put him into a band, and he learned an instrument there at no cost. Press its kind; you are "
+    "then asked which it is. It is a skill like any other afterwards, and can be bought again in Step 12.";
+constexpr FormTemplate kBandGeek{"BandGeek", "Pick and instrument, Band Geek!", kBandGeekControls, kBandGeekHelp};
 
 void RunBandGeek(Game& game) {
   Form form(kBandGeek);

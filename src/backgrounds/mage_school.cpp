@@ -52,7 +52,16 @@ constexpr ChainGroup kGroups[] = {
 };
 constexpr auto kHXABackgroundControls =
     ChainControls<kGroups>("The Hexwright's Almanac to Erdra Domination: Training Tables");
-constexpr FormTemplate kHXABackground{"HXABackground", "Hexwright's Almanac", kHXABackgroundControls};
+constexpr std::string_view kHXABackgroundHelp =
+    "How he became a mage: where his school lay and of what kind, whether the master was kind and knew his craft, how "
+    "many sat beside him, and how well he came out. Each of these leans on the next, so the first ones weigh most. "
+    "Then come the events of his college years, for good and ill.\n\n"
+    "Begin rolls one table after another and shows each result beside its name; What this brought lists the skills, "
+    "spells, quirks, age and BP that came of it. To keep a result is free; to refuse it costs 1 BP and rolls it "
+    "again. Save BP for the quality of the master and the final results. The events may cost him a limb, but not his "
+    "life. Close goes on when all has been rolled.";
+constexpr FormTemplate kHXABackground{"HXABackground", "Hexwright's Almanac", kHXABackgroundControls,
+                                      kHXABackgroundHelp};
 
 // --- What is added to the rolls ------------------------------------------------------------------------------------
 

@@ -53,7 +53,16 @@ constexpr ChainGroup kGroups[] = {
 };
 constexpr auto kWMABackgroundControls =
     ChainControls<kGroups>("The Warmonger's Almanac to Slaughtering Foes: Training Tables");
-constexpr FormTemplate kWMABackground{"WMABackground", "Warmonger's Almanac", kWMABackgroundControls};
+constexpr std::string_view kWMABackgroundHelp =
+    "How he became a fighter: the training camp, what it taught him, what broke there, his specialty, and the wars or "
+    "dull garrisons of his first years under arms. Begin rolls one table after another; each result is shown beside "
+    "its name, and What this brought lists every skill, proficiency, quirk, point of Honor and coin that came of "
+    "it.\n\n"
+    "Where you are asked whether to keep a result, keeping it is free and refusing it costs 1 BP, as often as you can "
+    "pay. Pay when the result is a wound or worse: a soldier can die here, and then the run is over, with the "
+    "character in memory. A bad camp is only a story. Close goes on when all has been rolled.";
+constexpr FormTemplate kWMABackground{"WMABackground", "Warmonger's Almanac", kWMABackgroundControls,
+                                      kWMABackgroundHelp};
 
 // --- Dice ----------------------------------------------------------------------------------------------------------
 

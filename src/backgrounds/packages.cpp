@@ -53,7 +53,14 @@ constexpr ControlTemplate kPackageControls[] = {
     ButtonAt(7, 0, kAccept, "&Accept", ButtonRole::Default),
     ButtonAt(7, 0, kNoPackageButton, "&No Package", ButtonRole::Cancel),
 };
-constexpr FormTemplate kPackageSelect{"PackageSelect", "Pick a Package", kPackageControls};
+constexpr std::string_view kPackageSelectHelp =
+    "A package is the life he led before the class: a bundle of skills, talents and gear for one price in BP, with a "
+    "price of another kind in what it forbids. Choose one and read it: Price is paid on Accept, Needs is what he must "
+    "have already or still get by the end of Step 12, Gives is what he gets. The line below tells why one is closed "
+    "to him.\n\n"
+    "Only a character of a single class is asked. Some packages also make some skills cheaper later, so look where "
+    "you mean to go. No Package costs nothing and shuts nothing.";
+constexpr FormTemplate kPackageSelect{"PackageSelect", "Pick a Package", kPackageControls, kPackageSelectHelp};
 
 // --- Several picks from one list ---------------------------------------------------------------------------------
 
@@ -66,8 +73,16 @@ constexpr ControlTemplate kFreePicksControls[] = {
     ResultAt(1, 0, kPicksLeft, 4),
     ButtonAt(2, 0, kAccept, "&Accept Selection", ButtonRole::Default),
 };
-constexpr FormTemplate kFreeMystic{"FreeMystic", "Pick your three free skills", kFreePicksControls};
-constexpr FormTemplate kFreeRustic{"FreeRustic", "Pick your six free skills", kFreePicksControls};
+constexpr std::string_view kFreeMysticHelp =
+    "The package gives three skills free, one for each press of Accept Selection. Picks left counts them. A press is "
+    "gone even if the skill can not be taken, so do not choose what he is barred from. The same one twice makes it "
+    "better.";
+constexpr FormTemplate kFreeMystic{"FreeMystic", "Pick your three free skills", kFreePicksControls, kFreeMysticHelp};
+constexpr std::string_view kFreeRusticHelp =
+    "The package gives six skills of country life free, one for each press of Accept Selection. Picks left counts "
+    "them. A press is gone even if the skill can not be taken. The same one twice makes it better, though breadth "
+    "feeds a village mage.";
+constexpr FormTemplate kFreeRustic{"FreeRustic", "Pick your six free skills", kFreePicksControls, kFreeRusticHelp};
 
 constexpr int kMysticPicks = 3;
 constexpr int kRusticPicks = 6;

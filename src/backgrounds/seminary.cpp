@@ -35,7 +35,15 @@ constexpr ChainGroup kGroups[] = {
     {"Quality of Education final Results", 207},
 };
 constexpr auto kControls = ChainControls<kGroups>("The Devotee's Almanac to Erdra Conversion Training Tables");
-constexpr FormTemplate kPage{"DVABackground", "Devotee's Almanac", kControls};
+constexpr std::string_view kPageHelp =
+    "How he became a priest: what called him, the school that took him, the reverend superior he served and what he "
+    "was like, the things of his faith he was given, and how his residency went. Begin rolls one table after another "
+    "and shows each result beside its name. What this brought lists the skills, quirks, Honor and goods that came of "
+    "it.\n\n"
+    "To keep a result is free; to refuse it costs 1 BP and rolls it again. The superior's competency carries through "
+    "to the final results, so a BP is best spent there. What is left goes to the skills. Close goes on when all has "
+    "been rolled.";
+constexpr FormTemplate kPage{"DVABackground", "Devotee's Almanac", kControls, kPageHelp};
 
 constexpr int kMastered = 50;
 constexpr std::size_t kPriestClasses = 150;  ///< rows among which experience of the youth is shared out

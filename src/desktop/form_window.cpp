@@ -25,6 +25,7 @@
 #include "desktop/control_widgets.h"
 #include "platform/control_kinds.h"
 #include "platform/control_names.h"
+#include "platform/message_form.h"
 #include "platform/mnemonics.h"
 
 namespace veld {
@@ -117,6 +118,7 @@ void FormWindow::Build() {
   for (const Control& control : form_.Controls()) widgets_.push_back(MakeControlWidget(control, style_, paper_));
   for (std::size_t i = 0; i < widgets_.size(); ++i) Connect(i);
   MakeCorner();
+  MakeHelp();
   MakeKeys();
   NameControls();
   MarkTexts();
@@ -227,6 +229,16 @@ void FormWindow::MakeCorner() {
   }
 }
 
+/// The word that shows the form's help, and F1.
+void FormWindow::MakeHelp() {
+  if (form_.Help().empty()) return;
+  help_ = MakeWord("Help", "What this page is, and what to do here (F1)", &FormWindow::ShowHelp);
+  metrics_.IsCornerFlat = !corner_;
+  auto* key = new QShortcut(Qt::Key_F1, this);
+  key->setAutoRepeat(false);
+  QObject::connect(key, &QShortcut::activated, this, &FormWindow::ShowHelp);
+}
+
 /// The keys that take back and do again. They come here from every control, fields among them, which would keep them
 /// for themselves.
 void FormWindow::MakeKeys() {
@@ -243,7 +255,8 @@ void FormWindow::MakeKeys() {
   }
 }
 
-QPushButton* FormWindow::MakeActButton(const char* text, const char* tip, void (FormWindow::*act)()) {
+/// A button of the corner that is a mere word, and has no place among what the keys go to.
+QPushButton* FormWindow::MakeWord(const char* text, const char* tip, void (FormWindow::*act)()) {
   auto* button = new QPushButton(text, paper_);
   button->setObjectName(text);
   button->setToolTip(tip);
@@ -266,8 +279,8 @@ void FormWindow::ShowActs() {
   const bool canDoAgain = form_.CanDoAgain();
   if (!takeBack_) {
     if (!canTakeBack && !canDoAgain) return;
-    takeBack_ = MakeActButton("Undo", "Takes back what was done last (Ctrl+Z)", &FormWindow::TakeBack);
-    doAgain_ = MakeActButton("Redo", "Does again what was taken back last (Ctrl+Shift+Z)", &FormWindow::DoAgain);
+    takeBack_ = MakeWord("Undo", "Takes back what was done last (Ctrl+Z)", &FormWindow::TakeBack);
+    doAgain_ = MakeWord("Redo", "Does again what was taken back last (Ctrl+Shift+Z)", &FormWindow::DoAgain);
     metrics_.IsCornerFlat = !corner_;
     FitSoon();
   }
@@ -334,7 +347,7 @@ void FormWindow::LayOut() {
     PlaceControl(*widgets_[placed.Control], form_.Controls()[placed.Control], placed);
   }
   int right = page.Corner.Right();
-  for (QPushButton* button : {corner_, takeBack_, doAgain_}) {
+  for (QPushButton* button : {corner_, help_, takeBack_, doAgain_}) {
     if (!button) continue;
     const int width = CornerButtonWidth(*button);
     right -= width;
@@ -503,6 +516,16 @@ void FormWindow::TakeBack() {
 
 void FormWindow::DoAgain() {
   if (form_.CanDoAgain()) Act([this] { form_.DoAgain(); });
+}
+
+/// The help is a page of this window alone: the game's platform, and with it a run's journal, do not see it. What was
+/// typed last stays so.
+void FormWindow::ShowHelp() {
+  ++depth_;
+  HelpForm help(form_);
+  FormWindow(help.form, style_, this).Run();
+  --depth_;
+  AfterAct();
 }
 
 void FormWindow::contextMenuEvent(QContextMenuEvent* event) {

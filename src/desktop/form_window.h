@@ -54,10 +54,11 @@ class FormWindow : public QDialog, private FormObserver {
   void JoinGroup(std::size_t control);
   void NameControls();
   void MakeCorner();
+  void MakeHelp();
   void MakeKeys();
   void ShowActs();
   int CornerButtonWidth(const QPushButton& button) const;
-  QPushButton* MakeActButton(const char* text, const char* tip, void (FormWindow::*act)());
+  QPushButton* MakeWord(const char* text, const char* tip, void (FormWindow::*act)());
   void FocusFirst();
   void TakeFocus(std::size_t control);
   void ResizeToForm();
@@ -74,6 +75,7 @@ class FormWindow : public QDialog, private FormObserver {
   bool TypeBack(bool again);
   void TakeBack();
   void DoAgain();
+  void ShowHelp();
   void Act(const std::function<void()>& act);
   void AfterAct();
   int IdOf(std::size_t control) const { return form_.Controls()[control].Template.Id; }
@@ -84,6 +86,7 @@ class FormWindow : public QDialog, private FormObserver {
   QScrollArea* scroll_;
   Paper* paper_;
   QPushButton* corner_ = nullptr;
+  QPushButton* help_ = nullptr;      ///< of a form that has one
   QPushButton* takeBack_ = nullptr;  ///< both are made when there is first something for one of them to do
   QPushButton* doAgain_ = nullptr;
   std::vector<QWidget*> widgets_;  ///< one for each control of the form

@@ -30,7 +30,11 @@ constexpr ControlTemplate kGetDiceControls[] = {
     ButtonAt(4, 0, kRollForMeButton, "&Roll For Me", ButtonRole::Cancel),
     ButtonAt(4, 0, kTurnThisOff, "&Turn This Off"),
 };
-constexpr FormTemplate kGetDice{"GetDice", "Roll Your Own Dice", kGetDiceControls};
+constexpr std::string_view kGetDiceHelp =
+    "Your own dice are wanted. The text tells what is rolled and which dice: throw them, type their sum as it says, "
+    "and press Enter. Roll For Me leaves this one to the program; Turn This Off leaves all from now on, until Help, "
+    "Options switches it on again. A number that these dice can not show is not taken.";
+constexpr FormTemplate kGetDice{"GetDice", "Roll Your Own Dice", kGetDiceControls, kGetDiceHelp};
 
 /// "3 to 18", or "at least 1" where there is no highest number.
 std::string RangeText(std::int64_t lowest, std::int64_t highest) {

@@ -65,7 +65,12 @@ constexpr auto kControls = [] {
   }
   return controls;
 }();
-constexpr FormTemplate kEditEquipment{"EditEquipment", "Custom Item Editor", kControls};
+constexpr std::string_view kEditEquipmentHelp =
+    "Your own goods, sold in Step 19 beside the others. Fill in name, price and coin, weight and category, and press "
+    "Add. Choose one of the list to Change or Delete it. Goods that came with a character from elsewhere are marked "
+    "and go again with him, unless Keep makes them yours. Every change is saved at once, and a refusal tells its "
+    "reason below.";
+constexpr FormTemplate kEditEquipment{"EditEquipment", "Custom Item Editor", kControls, kEditEquipmentHelp};
 
 /// The open page: the rows behind the lines of its list.
 struct GoodsPage {

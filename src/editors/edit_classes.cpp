@@ -80,7 +80,14 @@ constexpr auto kControls = [] {
   }
   return controls;
 }();
-constexpr FormTemplate kEditClasses{"EditClasses", "Classes and levels", kControls};
+constexpr std::string_view kEditClassesHelp =
+    "What play does to a class. After a session type the experience gained, choose whom it is for, and press Award: "
+    "the page tells at once which levels came and what they brought, with hit points rolled and training told. An "
+    "amount below 0 takes experience, and with it levels, away.\n\n"
+    "Below that, choose a class held to set its level, its experience or all hit points by hand. Another class adds "
+    "one, Give up ends one, each with what it gives. This is the referee's page: it lets you do what the rules would "
+    "not, and says so. OK keeps it all, Cancel puts everything back.";
+constexpr FormTemplate kEditClasses{"EditClasses", "Classes and levels", kControls, kEditClassesHelp};
 
 /// The classes that can be added: all that have a name and are not held.
 std::vector<int> OtherClasses(const CharacterSheet& sheet) {

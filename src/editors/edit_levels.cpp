@@ -61,7 +61,11 @@ constexpr auto kControls = [] {
   addButton(kCancel, "Ca&ncel", ButtonRole::Cancel);
   return controls;
 }();
-constexpr FormTemplate kEditLevels{"EditLevels", "Levels and hit points", kControls};
+constexpr std::string_view kEditLevelsHelp =
+    "What each level brought, a row each: hit points, gains of the abilities, and a thief's arts. Choose the class "
+    "and the level, change numbers and press Set, or roll its hit points again. The total follows at once. Use it "
+    "when a die was misread or a level was drained; Cancel puts everything back.";
+constexpr FormTemplate kEditLevels{"EditLevels", "Levels and hit points", kControls, kEditLevelsHelp};
 
 std::size_t Index(int number) {
   return static_cast<std::size_t>(number);

@@ -16,6 +16,11 @@ namespace veld {
 
 namespace {
 
+constexpr std::string_view kHelp =
+    "What is wrong with him. Choose a quirk in the catalogue and Add it, with how often he has it; Set changes that, "
+    "Remove heals him. No BP are paid or taken. The note tells what is against the rules, such as a class closed to "
+    "him. Cancel puts everything back.";
+
 constexpr int kBarred = -1;
 
 /// What a row that is held does beyond the classes and abilities.
@@ -176,7 +181,7 @@ class Quirks : public HeldSource {
 void RunEditQuirks(Game& game) {
   static const Quirks quirks;
   const HeldSource* const sources[] = {&quirks};
-  RunHeldPage(game, "EditQuirks", "Quirks and Flaws", sources);
+  RunHeldPage(game, "EditQuirks", "Quirks and Flaws", kHelp, sources);
 }
 
 }  // namespace veld

@@ -170,7 +170,12 @@ constexpr ControlTemplate kControls[] = {
     ButtonAt(13, 0, kCancel, "&Cancel", ButtonRole::Cancel),
     ButtonAt(13, 0, kSave, "Save spell b&ooks..."),
 };
-constexpr FormTemplate kEditSpellBooks{"EditSpellBooks", "Spell Books", kControls};
+constexpr std::string_view kEditSpellBooksHelp =
+    "A mage's books, a page of paper for each page of magic. New book makes one; name, kind, size and weight are for "
+    "the sheet. Choose a spell he knows and press Add to write it in, with as many pages as it takes; pages are "
+    "numbered by themselves from the first one. Remove tears one out. Save spell books writes them as text files to "
+    "hand to the player. Cancel puts everything back.";
+constexpr FormTemplate kEditSpellBooks{"EditSpellBooks", "Spell Books", kControls, kEditSpellBooksHelp};
 
 /// Calls `act` with the id, the name and the text of each text of a book, until it returns false.
 template <typename Book, typename Act>

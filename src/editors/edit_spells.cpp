@@ -13,6 +13,11 @@ namespace veld {
 
 namespace {
 
+constexpr std::string_view kHelp =
+    "The spells that a mage knows. Choose one in the catalogue and Add it, with the pages that it fills in his book; "
+    "Set changes the pages, Remove makes him forget. Learning costs nothing here: the roll for it was made at the "
+    "table. Cancel puts everything back.";
+
 constexpr std::string_view kNoSpell = "Empty";
 
 const SpellRecord& SpellAt(const Game& game, int row) {
@@ -104,7 +109,7 @@ class Spells : public HeldSource {
 void RunEditSpells(Game& game) {
   static const Spells spells;
   const HeldSource* const sources[] = {&spells};
-  RunHeldPage(game, "EditSpells", "Spells Known", sources);
+  RunHeldPage(game, "EditSpells", "Spells Known", kHelp, sources);
 }
 
 }  // namespace veld

@@ -76,7 +76,7 @@ class OpenPage {
       : game_(game),
         page_(page),
         controls_(ControlsOf(page)),
-        form_(FormTemplate{page.Name, page.Title, controls_}),
+        form_(FormTemplate{page.Name, page.Title, controls_, page.Help}),
         backup_(game),
         shown_(page.Fields.size()) {
     form_.onOpened = [this] {

@@ -22,6 +22,7 @@ struct PageAction {
 struct FieldPage {
   std::string_view Name;   ///< of the form
   std::string_view Title;  ///< of its window and page
+  std::string_view Help;   ///< of the form
   std::vector<EditField> Fields = {};
   int Rows = 99;                                ///< fields in a column
   std::function<std::string(Game&)> Told = {};  ///< what the present values do elsewhere; may be missing

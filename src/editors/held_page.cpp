@@ -257,11 +257,11 @@ std::string NameOrRow(std::string_view name, int row) {
   return name.empty() ? Format("Row %i", row) : std::string(name);
 }
 
-void RunHeldPage(Game& game, std::string_view name, std::string_view title,
+void RunHeldPage(Game& game, std::string_view name, std::string_view title, std::string_view help,
                  std::span<const HeldSource* const> sources) {
   const CharacterBackup backup(game);
   bool isKept = false;
-  Page page(game, {name, title, kControls}, sources);
+  Page page(game, {name, title, kControls, help}, sources);
   Form& form = page.form;
   form.onOpened = [&] {
     std::vector<std::string> names;

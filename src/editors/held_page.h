@@ -86,7 +86,8 @@ class HeldSource {
 
 /// The page of a character's things: the catalogue on the left with a search over it, what the character has on the
 /// right. Changes are made to the character at once; OK keeps them, all else takes them back.
-void RunHeldPage(Game& game, std::string_view name, std::string_view title, std::span<const HeldSource* const> sources);
+void RunHeldPage(Game& game, std::string_view name, std::string_view title, std::string_view help,
+                 std::span<const HeldSource* const> sources);
 
 /// A catalogue's name without the blanks at its end, or "Row 412" for a row that has none: files may hold such rows.
 std::string NameOrRow(std::string_view name, int row);

@@ -126,8 +126,18 @@ constexpr std::array<ControlTemplate, kControls> ControlsFor(EditMode mode, std:
 
 constexpr auto kMainEditControls = ControlsFor(EditMode::Edit, "Edit the character");
 constexpr auto kEnterControls = ControlsFor(EditMode::Paper, "Input your own character");
-constexpr FormTemplate kMainEdit{"MainEdit", "Edit", kMainEditControls};
-constexpr FormTemplate kEnter{"Enter", "Input own character", kEnterControls};
+constexpr std::string_view kMainEditHelp =
+    "The character in memory, page by page. What play changes stands first: experience and classes, hit points, money "
+    "and goods. Everything else that a file holds is below. Each page takes effect with its own OK, and OK here keeps "
+    "them all; Cancel leaves him as he was. It is the referee's: it costs nothing, asks no rule, and tells where a "
+    "rule is broken.";
+constexpr FormTemplate kMainEdit{"MainEdit", "Edit", kMainEditControls, kMainEditHelp};
+constexpr std::string_view kEnterHelp =
+    "For a character that lives on paper. Next leads through the pages in the order of a sheet, and each can be "
+    "opened by itself and again. Write down what the sheet says: nothing is rolled, nothing costs, and levels typed "
+    "in raise nothing. A page that does not concern him may stay empty. OK makes him the character in memory; save "
+    "him then.";
+constexpr FormTemplate kEnter{"Enter", "Input own character", kEnterControls, kEnterHelp};
 
 /// "Person and notes" of "&Person and notes".
 std::string PlainText(std::string_view button) {

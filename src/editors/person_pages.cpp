@@ -19,6 +19,44 @@ namespace veld {
 
 namespace {
 
+// --- What F1 tells of each page ---
+
+constexpr std::string_view kHelpOfPerson =
+    "Who he is, as the top of the sheet has it. The line below tells what it does "
+    "elsewhere: another race, for example, changes which classes are open to him, but not the scores that he rolled. "
+    "A text or number that a field can not hold is refused by OK. Cancel puts everything back.";
+constexpr std::string_view kHelpOfAbilities =
+    "The seven scores as they stand today, whole points and percentiles. What an injury, a wish or the years have "
+    "changed is written in here, and bonuses that follow from a score follow by themselves. Gains of a level stand "
+    "with the level, under Hit points. Cancel puts everything back.";
+constexpr std::string_view kHelpOfMoney =
+    "The purse. Type an amount, choose its coin and press Found or Spent: change is made from other coins, and what "
+    "he can not pay is refused. Or write the coins down as they are. Debts and the inheritance are what Step 10 "
+    "rolled. Cancel puts everything back.";
+constexpr std::string_view kHelpOfPrior =
+    "Birth and kin as Step 6 rolled them: class, parents, brothers and sisters. They are texts of the sheet for the "
+    "most part; the social class decides which classes are open to him, which the line below tells. Use it for what "
+    "comes to light in play, such as a father after all. Cancel puts everything back.";
+constexpr std::string_view kHelpOfMilitary =
+    "A fighter's years of service, as the tables told them. These are the sheet's words alone: a war written in here "
+    "brings no skill, and none is lost with one deleted. The mark above says whether he has this youth at all. Cancel "
+    "puts everything back.";
+constexpr std::string_view kHelpOfSchool =
+    "A mage's schooling, as the tables told it, and the rolls behind it. These are the sheet's words and numbers "
+    "alone: a better master written in here teaches nothing more. The mark above says whether he has this youth at "
+    "all. Cancel puts everything back.";
+constexpr std::string_view kHelpOfSeminary =
+    "A priest's training, as the tables told it. These are the sheet's words alone: what is changed here gives no "
+    "skill and takes no quirk. The mark above says whether he has this youth at all. Cancel puts everything back.";
+constexpr std::string_view kHelpOfTattoos =
+    "The magic tattoos of a pixie fairy and where each one is. The marks say which places of the body are taken. "
+    "Nothing is charged here, in BP or in Constitution; change the abilities on their own page. Cancel puts "
+    "everything back.";
+constexpr std::string_view kHelpOfStanding =
+    "Honor, and the counts that are kept behind the sheet. Honor is what changes in play; the others follow from "
+    "race, class and level and are here to be mended when a table was overruled. A barbarian's numbers stand here "
+    "too. Cancel puts everything back.";
+
 using Sheet = CharacterSheet;
 
 constexpr int kMostYears = 99'999;
@@ -204,7 +242,7 @@ EditField AmountCoinField(Amount& amount) {
 }  // namespace
 
 void RunEditPerson(Game& game) {
-  FieldPage page{.Name = "EditPerson", .Title = "The person", .Rows = 9};
+  FieldPage page{.Name = "EditPerson", .Title = "The person", .Help = kHelpOfPerson, .Rows = 9};
   page.Fields = {
       TextField("Name", &Sheet::CharacterName, 24),
       TextChoiceField("Race", &Sheet::RaceName, 20, RaceNames()),
@@ -240,7 +278,7 @@ void RunEditAbilities(Game& game) {
   constexpr std::array<std::string_view, kAbilityCount> kPercent = {
       "Strength, percent", "Dexterity, percent", "Constitution, percent", "Intelligence, percent",
       "Wisdom, percent",   "Charisma, percent",  "Comeliness, percent"};
-  FieldPage page{.Name = "EditAbilities", .Title = "Abilities", .Rows = kAbilityCount};
+  FieldPage page{.Name = "EditAbilities", .Title = "Abilities", .Help = kHelpOfAbilities, .Rows = kAbilityCount};
   for (int ability = 0; ability < kAbilityCount; ++ability) {
     page.Fields.push_back(NumberField(
         AbilityName(ability), [ability](auto& sheet) -> auto& { return AbilityAt(sheet, ability).Whole; }, 1,
@@ -257,7 +295,7 @@ void RunEditAbilities(Game& game) {
 
 void RunEditMoney(Game& game) {
   Amount amount;
-  FieldPage page{.Name = "EditMoney", .Title = "Money and inheritance", .Rows = 8};
+  FieldPage page{.Name = "EditMoney", .Title = "Money and inheritance", .Help = kHelpOfMoney, .Rows = 8};
   page.Fields = {AmountField(amount), AmountCoinField(amount)};
   for (const CoinKind& coin : kCoinKinds) page.Fields.push_back(NumberField(coin.Name, coin.Count, 0, kMostCoins));
   const EditField rest[] = {
@@ -278,7 +316,7 @@ void RunEditMoney(Game& game) {
 }
 
 void RunPriorEdit(Game& game) {
-  FieldPage page{.Name = "PriorEdit", .Title = "Birth and family", .Rows = 9};
+  FieldPage page{.Name = "PriorEdit", .Title = "Birth and family", .Help = kHelpOfPrior, .Rows = 9};
   page.Fields = {
       SocialClassField(),
       TextField("Circumstance of birth", &Sheet::BirthCircumstance, 24),
@@ -302,7 +340,7 @@ void RunPriorEdit(Game& game) {
 }
 
 void RunEditMilitary(Game& game) {
-  FieldPage page{.Name = "EditMilitary", .Title = "Youth of a fighter"};
+  FieldPage page{.Name = "EditMilitary", .Title = "Youth of a fighter", .Help = kHelpOfMilitary};
   page.Fields = {
       MarkField("Has this youth (else none of it is saved)", &Sheet::UsesFighterBackground),
       YouthText("Training camp", &Sheet::TrainingCampType),
@@ -337,7 +375,7 @@ void RunEditMilitary(Game& game) {
 }
 
 void RunEditSchool(Game& game) {
-  FieldPage page{.Name = "EditSchool", .Title = "Youth of a mage", .Rows = 8};
+  FieldPage page{.Name = "EditSchool", .Title = "Youth of a mage", .Help = kHelpOfSchool, .Rows = 8};
   page.Fields = {
       MarkField("Has this youth (else none of it is saved)", &Sheet::UsesMageBackground),
       TextField("School's location", &Sheet::SchoolLocation, 24),
@@ -359,7 +397,7 @@ void RunEditSchool(Game& game) {
 }
 
 void RunEditSeminary(Game& game) {
-  FieldPage page{.Name = "EditSeminary", .Title = "Youth of a priest"};
+  FieldPage page{.Name = "EditSeminary", .Title = "Youth of a priest", .Help = kHelpOfSeminary};
   page.Fields = {
       MarkField("Has this youth (else none of it is saved)", &Sheet::UsesClericBackground),
       YouthText("The call", &Sheet::TheCall),
@@ -375,7 +413,7 @@ void RunEditSeminary(Game& game) {
 }
 
 void RunEditTattoos(Game& game) {
-  FieldPage page{.Name = "EditTattoos", .Title = "Tattoos", .Rows = 10};
+  FieldPage page{.Name = "EditTattoos", .Title = "Tattoos", .Help = kHelpOfTattoos, .Rows = 10};
   std::vector<NamedNumber> places{{kNoPlace, "none"}};
   for (int place = kForehead; place <= kBothLowerArms; ++place) places.push_back({place, TattooPlaceName(place)});
   for (const TattooRecord& tattoo : TattooTable()) {
@@ -399,7 +437,7 @@ void RunEditTattoos(Game& game) {
 }
 
 void RunEditStanding(Game& game) {
-  FieldPage page{.Name = "EditStanding", .Title = "Honor and other counts", .Rows = 9};
+  FieldPage page{.Name = "EditStanding", .Title = "Honor and other counts", .Help = kHelpOfStanding, .Rows = 9};
   page.Fields = {
       NumberField("Honor", &Sheet::Honor, -kMostCount, kMostCount),
       NumberField("Hit dice", &Sheet::HitDiceCount, 0, kMostCount),

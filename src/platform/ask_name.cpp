@@ -15,7 +15,10 @@ constexpr ControlTemplate kGetNameControls[] = {
     ButtonAt(2, 0, kOk, "OK", ButtonRole::Default),
     ButtonAt(2, 0, kCancel, "Cancel", ButtonRole::Cancel),
 };
-constexpr FormTemplate kGetName{"GetName", "Choose a name", kGetNameControls};
+constexpr std::string_view kGetNameHelp =
+    "The rules leave this to you: type what the text asks for, and press Enter. It is written on the sheet as it "
+    "stands. With Cancel, or an empty line, there is no name, and what should have got it may go without.";
+constexpr FormTemplate kGetName{"GetName", "Choose a name", kGetNameControls, kGetNameHelp};
 
 }  // namespace
 

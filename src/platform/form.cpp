@@ -9,7 +9,8 @@
 
 namespace veld {
 
-Form::Form(const FormTemplate& formTemplate) : name_(formTemplate.Name), title_(formTemplate.Title) {
+Form::Form(const FormTemplate& formTemplate)
+    : name_(formTemplate.Name), title_(formTemplate.Title), help_(formTemplate.Help) {
   controls_.reserve(formTemplate.Controls.size());
   for (const ControlTemplate& control : formTemplate.Controls) {
     Control live{.Template = control, .Text = std::string(control.Text)};

@@ -95,6 +95,7 @@ class Form {
   // For front ends: the form and what a player does to it. What is disabled or hidden does not act.
   std::string_view Name() const { return name_; }
   const std::string& Title() const { return title_; }
+  std::string_view Help() const { return help_; }  ///< what F1 shows; empty if there is nothing to tell
   const std::vector<Control>& Controls() const { return controls_; }
   void SetObserver(FormObserver* observer) { observer_ = observer; }
   void SetActs(FormActs* acts) { acts_ = acts; }
@@ -126,6 +127,7 @@ class Form {
 
   std::string_view name_;
   std::string title_;
+  std::string_view help_;
   std::vector<Control> controls_;
   FormObserver* observer_ = nullptr;
   FormActs* acts_ = nullptr;

@@ -64,6 +64,9 @@ struct FormTemplate {
   std::string_view Name;   ///< as the dialog is known in the game's steps: "StepThree"
   std::string_view Title;  ///< of its window
   std::span<const ControlTemplate> Controls;
+  /// What F1 shows: what this step is in the game, what to do and what it costs. Empty for messages alone, which
+  /// explain themselves; a template that leaves it out does not build.
+  std::string_view Help;
 };
 
 // Short ways to write the rows of a template. Place first, then what it is.

@@ -6,6 +6,7 @@
 #include <system_error>
 
 #include "platform/form.h"
+#include "platform/message_form.h"
 #include "text/format.h"
 #include "text/search.h"
 #include "text/utf8.h"
@@ -14,21 +15,15 @@ namespace veld {
 
 namespace {
 
-enum : int { kMessageText = 10, kMessageOk = 1, kMessageYes = 6, kMessageNo = 7 };
-constexpr int kMessageWidth = 64;
-
-constexpr ControlTemplate kMessageControls[] = {
-    TextAt(0, 0, kMessageText, "", kMessageWidth, 0),
-    ButtonAt(1, 0, kMessageOk, "OK", ButtonRole::Both),
-};
-constexpr FormTemplate kMessageTemplate{"Message", "VELD", kMessageControls};
+enum : int { kQuestionText = 10, kQuestionYes = 6, kQuestionNo = 7 };
+constexpr int kQuestionWidth = 64;
 
 constexpr ControlTemplate kQuestionControls[] = {
-    TextAt(0, 0, kMessageText, "", kMessageWidth, 0),
-    ButtonAt(1, 0, kMessageYes, "&Yes", ButtonRole::Default),
-    ButtonAt(1, 0, kMessageNo, "&No"),
+    TextAt(0, 0, kQuestionText, "", kQuestionWidth, 0),
+    ButtonAt(1, 0, kQuestionYes, "&Yes", ButtonRole::Default),
+    ButtonAt(1, 0, kQuestionNo, "&No"),
 };
-constexpr FormTemplate kQuestionTemplate{"Question", "VELD", kQuestionControls};
+constexpr FormTemplate kQuestionTemplate{"Question", "VELD", kQuestionControls, ""};
 
 }  // namespace
 
@@ -73,20 +68,17 @@ std::int64_t Platform::Now() const {
 }
 
 void Platform::DoShowMessage(const std::string& caption, const std::string& text) {
-  Form form(kMessageTemplate);
-  form.SetTitle(caption);
-  form.SetText(kMessageText, text);
-  form.onCommand = [&](int) { form.Close(); };
-  RunForm(form);
+  MessageForm message(caption, text);
+  RunForm(message.form);
 }
 
 Answer Platform::DoAskYesNo(const std::string& caption, const std::string& text) {
   Form form(kQuestionTemplate);
   form.SetTitle(caption);
-  form.SetText(kMessageText, text);
+  form.SetText(kQuestionText, text);
   Answer answer = Answer::Closed;
   form.onCommand = [&](int id) {
-    answer = id == kMessageYes ? Answer::Yes : Answer::No;
+    answer = id == kQuestionYes ? Answer::Yes : Answer::No;
     form.Close();
   };
   RunForm(form);

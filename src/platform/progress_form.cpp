@@ -12,7 +12,7 @@ constexpr ControlTemplate kProgressControls[] = {
     {.Kind = ControlKind::Progress, .Id = kProgressBar, .Row = 1, .Column = 0, .Width = kProgressWidth},
     ButtonAt(2, 0, kProgressCancel, "&Cancel", ButtonRole::Cancel),
 };
-constexpr FormTemplate kProgressTemplate{"Progress", "VELD", kProgressControls};
+constexpr FormTemplate kProgressTemplate{"Progress", "VELD", kProgressControls, ""};
 constexpr auto kProgressEvery = std::chrono::milliseconds(25);  // from one look at what the player does to the next
 
 }  // namespace

@@ -65,7 +65,14 @@ constexpr ControlTemplate kCriticalHitControls[] = {
     LabelAt(7, 0, "&Notation"),
     {.Kind = ControlKind::Combo, .Id = kNotation, .Row = 7, .Column = 1, .Width = 50, .ColumnSpan = 4},
 };
-constexpr FormTemplate kCriticalHits{"CRITICALHITS", "Critical Hits", kCriticalHitControls};
+constexpr std::string_view kCriticalHitsHelp =
+    "What a critical hit does. Choose the type of weapon, then enter the d10,000 that tells the place and the "
+    "severity level, or press the Roll buttons beside them; with a base severity the second one throws the rest. Use "
+    "the numbers looks it up again after you have changed one.\n\n"
+    "The result stands in the notation of the game, with what it means beneath it in plain words, and the last ten "
+    "are kept below. Choose a mark in Notation to have it told by itself. Read the place first and let the table "
+    "wince before you read the rest.";
+constexpr FormTemplate kCriticalHits{"CRITICALHITS", "Critical Hits", kCriticalHitControls, kCriticalHitsHelp};
 
 /// What was typed into a field, by its sign and leading digits.
 int SignedNumber(const Form& form, int id) {

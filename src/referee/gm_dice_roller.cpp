@@ -167,7 +167,14 @@ constexpr auto kGmDiceRollerControls = [] {
   *next = kHistoryList;
   return controls;
 }();
-constexpr FormTemplate kGmDiceRoller{"GMDiceRoller", "GM's Dice Roller", kGmDiceRollerControls};
+constexpr std::string_view kGmDiceRollerHelp =
+    "The referee's dice, away from any character. Each row throws so many dice of so many sides, with a number added "
+    "to each die or to the whole; Penetrate lets a highest face throw on. Mark the rows and press Roll: totals and "
+    "single dice are shown, and the history keeps them.\n\n"
+    "Or type 3d6+2, or 2d8p-1 for dice that penetrate, into Expression and press Enter: it fills the next row and "
+    "throws. Add keeps the rows under a name, and a package of such names saves a night's monsters. Monster Attack "
+    "throws to hit and tells the armor class that is hit.";
+constexpr FormTemplate kGmDiceRoller{"GMDiceRoller", "GM's Dice Roller", kGmDiceRollerControls, kGmDiceRollerHelp};
 
 // --- The roller --------------------------------------------------------------------------------------------------
 

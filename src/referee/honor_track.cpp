@@ -41,7 +41,11 @@ constexpr ControlTemplate kGetPCControls[] = {
     ButtonAt(5, 0, kAdd, "&Add", ButtonRole::Default),
     ButtonAt(5, 0, kCancel, "Cancel", ButtonRole::Cancel),
 };
-constexpr FormTemplate kGetPC{"GetPC", "Enter PC Data", kGetPCControls};
+constexpr std::string_view kGetPCHelp =
+    "A member of the party, as its sheet has him: name, alignment, Honor, and temporal Honor if he has any yet. Both "
+    "numbers may be below 0. Add puts him into the list; what alignment stands here decides what awards are worth to "
+    "him.";
+constexpr FormTemplate kGetPC{"GetPC", "Enter PC Data", kGetPCControls, kGetPCHelp};
 
 /// What was typed into a field, by its sign and leading digits.
 int SignedNumber(const Form& form, int id) {
@@ -136,8 +140,14 @@ constexpr auto kAdjustWide = [] {
   controls[0].ColumnSpan = 2;
   return controls;
 }();
-constexpr FormTemplate kAdjustTemporal{"ADJUSTTEMPORAL", "Discretionary Honor Award", kAdjustWide};
-constexpr FormTemplate kAdjustHonor{"ADJUSTHONOR", "Discretionary Honor Award", kAdjustWide};
+constexpr std::string_view kAdjustTemporalHelp =
+    "Temporal Honor for something that no table knows. A reason is needed, since Honor.log keeps it; an amount below "
+    "0 takes away. Be sparing: three points for a good line at the table is plenty.";
+constexpr FormTemplate kAdjustTemporal{"ADJUSTTEMPORAL", "Discretionary Honor Award", kAdjustWide, kAdjustTemporalHelp};
+constexpr std::string_view kAdjustHonorHelp =
+    "A change to Honor itself, at the referee's word: to bring it up to date with the sheet, or for a deed that will "
+    "be sung. A reason is needed, since Honor.log keeps it; an amount below 0 takes away.";
+constexpr FormTemplate kAdjustHonor{"ADJUSTHONOR", "Discretionary Honor Award", kAdjustWide, kAdjustHonorHelp};
 
 /// Returns the line that was logged, nothing if the player cancelled.
 std::string RunAdjust(Game& game, PartyMember& member, HonorKind kind) {
@@ -214,7 +224,15 @@ constexpr auto kTrackControls = [] {
   }
   return controls;
 }();
-constexpr FormTemplate kTrack{"HONORTRACK", "GM - Honor Tracking System", kTrackControls};
+constexpr std::string_view kTrackHelp =
+    "The party's Honor, for the referee at the table. Add PC enters a member, Add from file takes one from a saved "
+    "character. Choose the member, then an award: Filter and Search shorten the list, and Value tells what it is "
+    "worth to somebody of his alignment before you give it. Apply Award adds it, and Honor.log keeps a line of "
+    "everything.\n\n"
+    "Discretionary Awards are your own, with a reason, on temporal Honor; Adjust Honor does the same to Honor itself. "
+    "The page's menu saves the party to a file and loads it. Give awards as they are earned, in the open: Honor that "
+    "nobody sees given moves nobody.";
+constexpr FormTemplate kTrack{"HONORTRACK", "GM - Honor Tracking System", kTrackControls, kTrackHelp};
 
 /// The open page: the awards behind the lines of its box.
 struct TrackPage {

@@ -35,7 +35,11 @@ constexpr auto kTrainingControls = [] {
   controls[next].ColumnSpan = 2;
   return controls;
 }();
-constexpr FormTemplate kTraining{"Training", "RFC - Training Tables", kTrainingControls};
+constexpr std::string_view kTrainingHelp =
+    "He has risen in level, and this is how the training went: how far the school was, who taught, how crowded it "
+    "was, what he got out of it, and whether something happened. All is rolled already, and written in Training.log. "
+    "Tell it at the table; Close goes on with what the level brings.";
+constexpr FormTemplate kTraining{"Training", "RFC - Training Tables", kTrainingControls, kTrainingHelp};
 
 bool IsBard(const Game& game) {
   return Contains(game.sheet.ClassName, "Bard");

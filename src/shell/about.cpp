@@ -19,7 +19,10 @@ constexpr ControlTemplate kAboutControls[] = {
     LabelAt(3, 0, "Written by the VELD team, for the players and referees at the table."),
     ButtonAt(5, 0, kOk, "OK", ButtonRole::Both),
 };
-constexpr FormTemplate kAbout{"About", "About VELD", kAboutControls};
+constexpr std::string_view kAboutHelp =
+    "The program's name and version. Tell the version when you report a fault: characters of this version and older "
+    "ones load here, those of a later one may not. To begin playing, close this and choose File, New Character.";
+constexpr FormTemplate kAbout{"About", "About VELD", kAboutControls, kAboutHelp};
 
 }  // namespace
 

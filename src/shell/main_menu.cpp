@@ -21,6 +21,17 @@ namespace veld {
 
 namespace {
 
+constexpr std::string_view kBeginning =
+    "File, New Character begins: seven abilities are rolled and Step 3 opens, where you pick a race. Continue then "
+    "leads from step to step, through family, quirks, class, money, skills and a name to the shop, and asks at the "
+    "end whether to save. A first character takes half an hour, or five minutes if the program throws the dice.\n\n"
+    "Decide before you begin which books and optional rules your table uses, and who throws: both stand in Help, "
+    "Options.\n\n"
+    "Nothing is lost. Undo takes back the last thing that you did, from step to step, and File, Recover has what was "
+    "broken off. File, Load brings back a character that was saved; File, Edit is for what happens to one in play. "
+    "The GM menu has the referee's tools, and touches no character.\n\n"
+    "F1 on any page tells what it is and what to do there.";
+
 void Save(Game& game) {
   if (AskAndSaveCharacter(game)) UpdateMainTitle(game, game.sheet.CharacterName);
 }
@@ -65,7 +76,8 @@ std::vector<MenuItem> MainMenu() {
                  {.Id = kInputCharacter, .Text = "&Input own character"},
                  {.Id = kExit, .Text = "E&xit"}}},
       {.Text = "&Help",
-       .Items = {{.Id = kDiceTester, .Text = "&Dice Tester 3d6"},
+       .Items = {{.Id = kHowToBegin, .Text = "&How to begin", .Shortcut = "F1"},
+                 {.Id = kDiceTester, .Text = "&Dice Tester 3d6"},
                  {.Id = kOptions, .Text = "&Options"},
                  {.Id = kCustomItems, .Text = "&Custom Item Editor"},
                  {.Id = kAbout, .Text = "&About VELD"}}},
@@ -87,6 +99,7 @@ void RunMainCommand(Game& game, int id) {
     case kEdit: return Edit(game, RunMainEdit);
     case kInputCharacter: return Edit(game, RunEnter);
     case kExit: return game.platform.CloseMainWindow();
+    case kHowToBegin: return game.platform.ShowMessage(kBeginning, "Help: How to begin");
     case kDiceRoller: return RunGmDiceRoller(game);
     case kDiceTester: return RunDiceTester(game);
     case kOptions: return RunOptions(game);

@@ -19,6 +19,7 @@ inline constexpr int kRecover = 3037;
 inline constexpr int kUndo = 3038;
 inline constexpr int kRedo = 3039;
 inline constexpr int kSaveRun = 3040;
+inline constexpr int kHowToBegin = 3041;
 inline constexpr int kCriticalHits = 3099;
 inline constexpr int kDiceTester = 5555;
 inline constexpr int kCustomItems = 5557;

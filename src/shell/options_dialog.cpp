@@ -32,7 +32,12 @@ constexpr auto kOptionsControls = [] {
   controls[row] = ButtonAt(last, 0, kClose, "Close", ButtonRole::Cancel);
   return controls;
 }();
-constexpr FormTemplate kOptions{"Options", "VELD Options", kOptionsControls};
+constexpr std::string_view kOptionsHelp =
+    "Which books and optional rules your table plays by. A book in use opens its classes, skills, quirks and tables; "
+    "without it they are never offered. Roll Your Own Dice asks for every roll. Apply makes it so and keeps it for "
+    "the next time; Close leaves all as it was. Agree on it with the referee before New Character: a switch turned in "
+    "the middle of a run counts from there on only.";
+constexpr FormTemplate kOptions{"Options", "VELD Options", kOptionsControls, kOptionsHelp};
 
 }  // namespace
 

@@ -18,7 +18,11 @@ constexpr ControlTemplate kRecoverControls[] = {
     ButtonAt(2, 0, kOk, "&Recover", ButtonRole::Default),
     ButtonAt(2, 0, kCancel, "Cancel", ButtonRole::Cancel),
 };
-constexpr FormTemplate kRecoverTemplate{"Recover", "Recover", kRecoverControls};
+constexpr std::string_view kRecoverTemplateHelp =
+    "What was in memory and may have been lost: runs that broke off, then characters, finished ones and others, and "
+    "the referee's parties. Choose by name and time and press Recover. A run goes on at the step where it stood; a "
+    "character or party takes the place of the one in memory, of which a copy is kept.";
+constexpr FormTemplate kRecoverTemplate{"Recover", "Recover", kRecoverControls, kRecoverTemplateHelp};
 
 std::string LineOf(const RecoveryCopy& copy) {
   if (copy.Kind == CopyKind::Run) return Format("Go on: %s, %s", copy.Name, copy.Time);

@@ -6,6 +6,7 @@
 
 #include "platform/control_kinds.h"
 #include "platform/control_names.h"
+#include "platform/message_form.h"
 #include "platform/mnemonics.h"
 #include "terminal/cells.h"
 #include "terminal/menu_popup.h"
@@ -23,7 +24,8 @@ constexpr int kSidewaysStep = 8;    // cells that an arrow moves a list's rows
 constexpr std::string_view kCornerText = "< &Menu >";
 
 // What the line of keys does without when it is too long, the first of them first.
-constexpr std::string_view kKnownKeys[] = {"Alt+letter", "PgUp/PgDn scroll", "Space open", "Up/Down choose", "Tab"};
+constexpr std::string_view kKnownKeys[] = {"Alt+letter", "PgUp/PgDn scroll", "Space open",
+                                           "Tab",        "Up/Down choose",   "F1 Help"};
 
 PageMetrics TerminalMetrics(bool hasMenu) {
   PageMetrics m;
@@ -359,6 +361,7 @@ std::string FormScreen::KeysLine() const {
   if (page_.Page.Height > view_.Height && kind != ControlKind::List) add("PgUp/PgDn scroll");
   add("Tab");
   add("Alt+letter");
+  if (!form_.Help().empty()) add("F1 Help");
   if (form_.CanTakeBack()) add("F2 Undo");
   if (form_.CanDoAgain()) add("F3 Redo");
   const int ofField = isControl ? At(focus_).Template.EnterPresses : 0;
@@ -478,6 +481,8 @@ void FormScreen::HandleKey(const Key& key) {
     case KeyKind::MainMenu:
     case KeyKind::PageMenu:
       return OpenPageMenu();
+    case KeyKind::Help:
+      return ShowHelp();
     case KeyKind::TakeBack:
       return form_.CanTakeBack() ? form_.TakeBack() : screen_.Beep();
     case KeyKind::DoAgain:
@@ -717,6 +722,16 @@ void FormScreen::OpenPageMenu() {
   const std::vector<MenuItem> items = form_.contextMenu;
   const MenuChoice choice = RunMenu(screen_, items, ScreenY(page_.Corner.Y) + 1, ScreenX(page_.Corner.X));
   if (choice.End == MenuEnd::Chosen) form_.ChooseMenuItem(choice.Id);
+}
+
+/// The help is a page of this one alone: the game's platform, and with it a run's journal, do not see it.
+void FormScreen::ShowHelp() {
+  if (form_.Help().empty()) return screen_.Beep();
+  HelpForm help(form_);
+  FormScreen page(help.form, screen_, Place::Dialog);
+  page.FocusFirst();
+  const OnTop onTop(screen_, page);
+  while (!page.IsOver() && !screen_.IsLost()) page.HandleKey(screen_.ReadKey());
 }
 
 bool FormScreen::HasLetter(char32_t letter) const {

@@ -85,6 +85,7 @@ class FormScreen : public Layer, private FormObserver {
   void ToggleMark(std::size_t control);
   void PressEnter();
   void OpenPageMenu();
+  void ShowHelp();
   bool PressLetter(char32_t letter);
   void ScrollPage(int lines);
 

@@ -156,6 +156,7 @@ MenuChoice MenuPopup::Run() {
       case KeyKind::Escape:
       case KeyKind::MainMenu:
       case KeyKind::PageMenu:
+      case KeyKind::Help:
       case KeyKind::TakeBack:
       case KeyKind::DoAgain:
         return {};

@@ -37,7 +37,12 @@ constexpr ControlTemplate kPathControls[] = {
     ButtonAt(5, 1, kOk, "&OK", ButtonRole::Default),
     ButtonAt(5, 1, kCancel, "&Cancel", ButtonRole::Cancel),
 };
-constexpr FormTemplate kPathTemplate{"Path", "VELD", kPathControls};
+constexpr std::string_view kPathTemplateHelp =
+    "Type the file's name and press Enter; Tab completes it as far as it is clear. Or choose in Files, where .. is "
+    "the folder above and a name with a stroke is a folder. Type shows one kind of file at a time, and tells what a "
+    "new one becomes: a name that ends in none of the kinds gets that one's ending. A file that is there already is "
+    "never replaced unasked.";
+constexpr FormTemplate kPathTemplate{"Path", "VELD", kPathControls, kPathTemplateHelp};
 
 bool IsFolder(const fs::path& path) {
   std::error_code ignored;

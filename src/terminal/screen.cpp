@@ -143,6 +143,8 @@ KeyKind FunctionKey(wint_t code) {
     case KEY_F(9):
     case KEY_F(22):
       return KeyKind::PageMenu;
+    case KEY_F(1):
+      return KeyKind::Help;
     case KEY_F(2):
       return KeyKind::TakeBack;
     case KEY_F(3):
@@ -246,6 +248,7 @@ Key Screen::TakeKey() {
   const int nextKind = get_wch(&next);
   if (nextKind != OK) return {KeyKind::Escape};
   Key key = PlainKey(next);
+  if (key.Kind == KeyKind::Character && key.Character == U'?') return {KeyKind::Help};
   key.IsAlt = key.Kind == KeyKind::Character;
   return key;
 }

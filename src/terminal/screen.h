@@ -31,6 +31,7 @@ enum class KeyKind : std::uint8_t {
   PageMenu,   ///< F9 or Shift+F10
   TakeBack,   ///< F2
   DoAgain,    ///< F3
+  Help,       ///< F1, or Alt+? where the terminal keeps F1 for itself
 };
 
 struct Key {

@@ -70,7 +70,7 @@ void TerminalPlatform::Desk::Draw(bool isActive) {
   if (!isActive) return;
   constexpr std::string_view kHint = "File, New Character begins: F10, Enter, Enter.";
   screen_.Put(screen_.Rows() / 2, (columns - CellsOf(kHint)) / 2, kHint, CellsOf(kHint), Ink::Desk);
-  screen_.ShowKeys("F10 menu  Alt+underlined letter that menu");
+  screen_.ShowKeys("F1 Help  F10 menu  Alt+underlined letter that menu");
 }
 
 TerminalPlatform::TerminalPlatform(Screen& screen) : screen_(screen), desk_(std::make_unique<Desk>(screen)) {
@@ -156,6 +156,17 @@ void TerminalPlatform::HandleMainKey(const MainWindow& window, const Key& key) {
     page->HandleKey(key);
   } else if (key.Kind == KeyKind::Enter || key.Kind == KeyKind::Down) {
     RunMenuBar(window, 0);
+  } else if (key.Kind == KeyKind::Help) {
+    RunShortcut(window, "F1");
+  }
+}
+
+/// Carries out the command that the menu has for a key.
+void TerminalPlatform::RunShortcut(const MainWindow& window, std::string_view shortcut) {
+  for (const MenuItem& menu : window.Menu) {
+    for (const MenuItem& item : menu.Items) {
+      if (item.Shortcut == shortcut && item.Enabled && window.onCommand) return window.onCommand(item.Id);
+    }
   }
 }
 

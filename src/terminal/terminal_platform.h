@@ -41,6 +41,7 @@ class TerminalPlatform : public Platform {
   void RunPage(Form& form, const std::function<bool()>& onTab);
   void LeaveForm(Form& form);
   void HandleMainKey(const MainWindow& window, const Key& key);
+  void RunShortcut(const MainWindow& window, std::string_view shortcut);
   void RunMenuBar(const MainWindow& window, std::size_t menu);
 
   Screen& screen_;

@@ -220,7 +220,7 @@ constexpr ControlTemplate kEverything[] = {
     ButtonAt(8, 0, kOpen, "Open"),
     ButtonAt(8, 0, kGone, "Gone"),
 };
-constexpr FormTemplate kEverythingForm{"Everything", "Everything", kEverything};
+constexpr FormTemplate kEverythingForm{"Everything", "Everything", kEverything, "What all of it is for."};
 
 constexpr ControlTemplate kEntry[] = {
     TextAt(0, 0, kSaid, "", 40, 0),
@@ -228,7 +228,7 @@ constexpr ControlTemplate kEntry[] = {
     ButtonAt(2, 0, kOk, "OK", ButtonRole::Default),
     ButtonAt(2, 0, kCancel, "Roll For Me", ButtonRole::Cancel),
 };
-constexpr FormTemplate kEntryForm{"Entry", "Entry", kEntry};
+constexpr FormTemplate kEntryForm{"Entry", "Entry", kEntry, ""};
 
 class Desktop : public ::testing::Test {
  protected:
@@ -492,6 +492,25 @@ TEST_F(Desktop, KeysAndButtonsTakeBackAndTypingInAFieldGoesFirst) {
   player.When("open list", HasPopup, [&] {
     Press(QApplication::activePopupWidget(), Qt::Key_Z, Qt::ControlModifier);
     EXPECT_TRUE(!HasPopup() && acts.takenBack == 1) << "goes first, alone";
+    Press(Qt::Key_Escape);
+  });
+  Play();
+}
+
+TEST_F(Desktop, HelpIsShownByKeyAndWordAndIsNoActOfTheForm) {
+  FillForm();
+  testing::CountedActs acts;
+  form.SetActs(&acts);
+  const auto showsHelp = [] { return Top()->windowTitle() == "Help: Everything"; };
+  player.When("key", Dialog("Everything"), [] { Press(Qt::Key_F1); });
+  player.When("leave help", showsHelp, [] {
+    EXPECT_FALSE(Top()->findChild<QPushButton*>("Help")) << "it has none itself";
+    Press(Qt::Key_Escape);
+  });
+  player.When("word", Dialog("Everything"), [] { Click(Top()->findChild<QPushButton*>("Help")); });
+  player.When("leave by Enter", showsHelp, [] { Press(Qt::Key_Return); });
+  player.When("end", Dialog("Everything"), [&] {
+    EXPECT_TRUE(acts.done == 0 && commands.empty());
     Press(Qt::Key_Escape);
   });
   Play();

@@ -193,7 +193,7 @@ TEST_F(DiceTest, RollForMeAndTurnThisOffLeaveTheRollToTheProgram) {
 
 TEST_F(DiceTest, AKeptRollCostsABuildingPointForEachRefusal) {
   constexpr ControlTemplate kControls[] = {ResultAt(0, 0, kBuildingPointsControl, 8), ButtonAt(1, 0, kOk, "OK")};
-  Form window(FormTemplate{"Window", "Window", kControls});
+  Form window(FormTemplate{"Window", "Window", kControls, ""});
   game->dice.RollContextText = "You are to roll percentile dice.";
   game->run.BuildingPoints = 0.5F;
   AskKeepRoll(*game, window, 100, 1);

@@ -73,7 +73,7 @@ constexpr ControlTemplate kControls[] = {
     ButtonAt(10, 0, kCancel, "Cancel", ButtonRole::Cancel),
     ButtonAt(10, 0, kMore, "And a third one"),
 };
-constexpr FormTemplate kTemplate{"Everything", "Everything", kControls};
+constexpr FormTemplate kTemplate{"Everything", "Everything", kControls, ""};
 
 const PlacedControl& Find(const PageLayout& page, const Form& form, int id) {
   return *std::ranges::find_if(page.Controls,
@@ -193,7 +193,7 @@ TEST(Layout, TakesFromListsAndTextsWhatIsMissing) {
 
 TEST(Layout, TextOfNoWantedHeightTakesTheLinesThatItNeeds) {
   constexpr ControlTemplate kMessage[] = {TextAt(0, 0, 10, "", 20, 0), ButtonAt(1, 0, 1, "OK", ButtonRole::Both)};
-  Form form(FormTemplate{"Message", "VELD", kMessage});
+  Form form(FormTemplate{"Message", "VELD", kMessage, ""});
   const PageMetrics m = Desktop();
   form.SetText(10, "short");
   const PageLayout page = NaturalLayout(form, m);
@@ -221,7 +221,7 @@ TEST(Layout, HiddenControlsTakeNoRoom) {
 TEST(Layout, ARowNumberLeftOutIsABlankLine) {
   constexpr ControlTemplate kRows[] = {LabelAt(0, 0, "a"), ResultAt(0, 1, 1, 5), ResultAt(2, 1, 2, 5),
                                        ResultAt(90, 1, 3, 5)};
-  Form form(FormTemplate{"Rows", "Rows", kRows});
+  Form form(FormTemplate{"Rows", "Rows", kRows, ""});
   const PageMetrics m = Desktop();
   const PageLayout page = NaturalLayout(form, m);
   EXPECT_EQ(Find(page, form, 2).Baseline - Find(page, form, 1).Baseline, 2 * m.Pitch);
@@ -244,7 +244,7 @@ TEST(Layout, LabelsNameTheControlsTheyStandBy) {
 
   constexpr ControlTemplate kStep[] = {ButtonAt(0, 0, 1, "Starting Age"), ResultAt(0, 1, 2, 9), LabelAt(1, 0, "Points"),
                                        ResultAt(1, 1, 3, 9), ButtonAt(2, 0, 4, "OK")};
-  const Form step(FormTemplate{"Step", "Step", kStep});
+  const Form step(FormTemplate{"Step", "Step", kStep, ""});
   EXPECT_EQ(ControlName(step, 1), "Starting Age");
   EXPECT_EQ(ControlName(step, 3), "Points");
   EXPECT_EQ(NamedControl(step, 2), 5u) << "a label of a result leads nowhere";
@@ -255,7 +255,7 @@ TEST(Layout, AResultMayStandBetweenALabelAndItsField) {
       LabelAt(0, 0, "&Pick Pockets"), ResultAt(0, 1, 10, 6), NumberAt(0, 2, 11),
       LabelAt(1, 0, "&Score"),        ResultAt(1, 1, 12, 6), ButtonAt(1, 2, 13, "Roll"),
   };
-  const Form form(FormTemplate{"Row", "Row", kRow});
+  const Form form(FormTemplate{"Row", "Row", kRow, ""});
   EXPECT_EQ(NamedControl(form, 0), 2u);
   EXPECT_EQ(ControlName(form, 2), "Pick Pockets");
   EXPECT_EQ(NamedControl(form, 3), 6u) << "a button has a name of its own";

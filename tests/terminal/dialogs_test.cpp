@@ -3,7 +3,9 @@
 
 #include <algorithm>
 #include <clocale>
+#include <filesystem>
 #include <iostream>
+#include <regex>
 #include <set>
 
 #include "dice/dice.h"
@@ -223,6 +225,11 @@ TEST(TerminalDialogsTest, EveryDialogIsOpenedWalkedThroughAndLeftByKeyboardAlone
     EXPECT_EQ(program.Title(), dialog.Title) << program.Shows();
     EXPECT_TRUE(program.KeysLine().find("Esc ") != std::string::npos) << program.Shows();
     if (std::getenv("VELD_SHOW_PAGES")) std::cout << program.Shows() << '\n';
+    program.Press(kHelpKey);
+    EXPECT_EQ(program.Title(), std::string("Help: ") + dialog.Title) << program.Shows();
+    EXPECT_EQ(program.KeysLine(), " Tab  Alt+letter  Enter OK  Esc OK") << "it is whole, and has no help itself";
+    program.Press(kEscapeKey);
+    EXPECT_TRUE(program.KeysLine().find("F1 Help") != std::string::npos) << program.Shows();
     const auto places = TabThrough(program, dialog.Title);
     EXPECT_GE(places.size(), dialog.HasOneButton ? 1U : 2U) << program.Shows();
     for (const auto& [row, column] : places) EXPECT_LT(row, program.screen.Rows() - 1) << column;
@@ -238,6 +245,36 @@ TEST(TerminalDialogsTest, EveryDialogIsLeftWhenTheTerminalIsLost) {
     PtyProgram program([&] { return RunAtTerminal(dialog); });
     program.HangUp();
     EXPECT_EQ(program.WaitForEnd(), 0);
+  }
+}
+
+/// Reads the help of the first form that opens.
+struct HelpReader : ScriptedPlatform {
+  struct Read {
+    std::string Help;
+  };
+  void RunForm(Form& form) override { throw Read{std::string(form.Help())}; }
+};
+
+TEST(TerminalDialogsTest, EveryDialogHasAParagraphOfHelpAndOnlyMessagesHaveNone) {
+  TestFolder folder;
+  for (const Dialog& dialog : kDialogs) {
+    SCOPED_TRACE(dialog.Title);
+    HelpReader platform;
+    const auto game = PlayedGame(platform);
+    try {
+      dialog.Run(*game);
+      ADD_FAILURE() << "it did not open";
+    } catch (const HelpReader::Read& read) {
+      const auto words = std::ranges::count(read.Help, ' ') + 1;
+      EXPECT_TRUE(words >= 25 && words <= 140) << words << ": " << read.Help;
+    }
+  }
+  const std::regex without(R"(FormTemplate\s*\w*\{[^;]*(""|\{\})\s*\})");
+  const std::filesystem::path sources = std::filesystem::path(VELD_SOURCE_DIR) / "src";
+  for (const auto& file : std::filesystem::recursive_directory_iterator(sources)) {
+    if (file.path().extension() != ".cpp" || file.path().parent_path().filename() == "platform") continue;
+    EXPECT_FALSE(std::regex_search(FileText(file.path().string()), without)) << file.path();
   }
 }
 
@@ -268,7 +305,7 @@ void RunWithActs(Game& game) {
   enum : int { kRows = 10, kOk = 1 };
   constexpr ControlTemplate kControls[] = {ListAt(0, 0, kRows, 20, 3, 3),
                                            ButtonAt(1, 0, kOk, "Go on with the next of the steps", ButtonRole::Cancel)};
-  Form form({"Acts", "Acts", kControls});
+  Form form({"Acts", "Acts", kControls, ""});
   CountedActs acts;
   form.onOpened = [&] { form.SetItems(kRows, {"one", "two", "three"}); };
   form.onCommand = [&](int) { form.Close(); };
@@ -288,7 +325,7 @@ TEST(TerminalDialogsTest, WhatWasDoneIsTakenBackByKeyAndTheKeysAreToldWhenTheyDo
   EXPECT_EQ(program.Title(), "Acts") << "an open menu goes first";
   program.Press(kUndoKey);
   EXPECT_EQ(program.Title(), "Left 1") << program.Shows();
-  EXPECT_EQ(program.KeysLine(), " Tab  F2 Undo  F3 Redo  Esc Go on with the next of the steps  F9 Menu");
+  EXPECT_EQ(program.KeysLine(), " Up/Down choose  F2 Undo  F3 Redo  Esc Go on with the next of the steps  F9 Menu");
   program.Press(kRedoKey);
   EXPECT_FALSE(program.Shows("F3")) << program.Shows();
   program.Press(kEscapeKey);

@@ -18,6 +18,7 @@ inline constexpr const char* kDownKey = "\x1BOB";
 inline constexpr const char* kRightKey = "\x1BOC";
 inline constexpr const char* kMainMenuKey = "\x1B[21~";  // F10
 inline constexpr const char* kPageMenuKey = "\x1B[20~";  // F9
+inline constexpr const char* kHelpKey = "\x1BOP";        // F1
 inline constexpr const char* kUndoKey = "\x1BOQ";        // F2
 inline constexpr const char* kRedoKey = "\x1BOR";        // F3
 

@@ -170,6 +170,11 @@ TEST_F(TerminalTest, EveryCommandOfTheMenusIsReachedByKeyboard) {
     EXPECT_EQ(program.Title(), "") << program.Shows();
   };
   opens("ha", "About VELD");
+  for (const char* help : {kHelpKey, "\x1B?"}) {  // F1, and Alt+? where the terminal keeps that for itself
+    program.Press(help);
+    EXPECT_EQ(program.Title(), "Help: How to begin") << program.Shows();
+    program.Press(kEscapeKey);
+  }
   opens("fs", "Save");
   opens("fl", "Load");
   opens("fr", "VELD");  // nothing to recover yet

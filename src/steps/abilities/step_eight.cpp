@@ -64,7 +64,17 @@ constexpr auto kStepEightControls = [] {
   add(ButtonAt(kLastRow, 0, kTryChanges, "&Try Changes"), 5);
   return controls;
 }();
-constexpr FormTemplate kStepEight{"StepEight", "Step 8", kStepEightControls};
+constexpr std::string_view kStepEightHelp =
+    "Building Points become ability here: each BP adds 25 to the percentile of one ability, and a percentile past 100 "
+    "carries into the next whole point. Four BP are thus one point of score, at every height, and there is no other "
+    "limit than the BP.\n\n"
+    "Type the whole number of BP for each ability and press Try Changes. The page shows the scores, what is left and "
+    "the classes that they open; Why not tells what a missing class wants. You may try as often as you like, even "
+    "with more than you have. OK spends for good, and refuses if it is too much. A fraction of a BP is lost on the "
+    "way.\n\n"
+    "Buy the point that opens the class you want, or nothing. Every BP kept goes to skills later, and those are "
+    "seldom regretted.";
+constexpr FormTemplate kStepEight{"StepEight", "Step 8", kStepEightControls, kStepEightHelp};
 
 std::size_t Index(int ability) {
   return static_cast<std::size_t>(ability);

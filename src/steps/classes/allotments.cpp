@@ -69,9 +69,22 @@ constexpr auto AllotmentControls(std::string_view title, const std::string_view 
 constexpr auto kThiefControls = AllotmentControls("Thief Abilities", kThiefLabels, true);
 constexpr auto kBardControls = AllotmentControls("Bard Abilities", kBardLabels, false);
 constexpr auto kBountyHunterControls = AllotmentControls("Bounty Hunter Abilities", kBountyHunterLabels, false);
-constexpr FormTemplate kThief{"ThiefAbilities", "Thief Abilities", kThiefControls};
-constexpr FormTemplate kBard{"BardAbilities", "Bard Abilities", kBardControls};
-constexpr FormTemplate kBountyHunter{"BountyHunterAbilities", "Bounty Hunter Abilities", kBountyHunterControls};
+constexpr std::string_view kThiefHelp =
+    "This level's points for the thieves' arts. Type how many go to each; Total shows what he has so far, with his "
+    "race and his Dexterity. All of them must be given out, none can be saved. No art takes more than 30 of them, or "
+    "15 when there are 35 or fewer to give. A thief who finds traps and can not remove them is half a thief.";
+constexpr FormTemplate kThief{"ThiefAbilities", "Thief Abilities", kThiefControls, kThiefHelp};
+constexpr std::string_view kBardHelp =
+    "This level's points for what a bard does like a thief. Type how many go to each of the four arts; Total shows "
+    "what he has so far. All must be given out, and they may all go to one. Picking pockets is the one that gets "
+    "bards hanged.";
+constexpr FormTemplate kBard{"BardAbilities", "Bard Abilities", kBardControls, kBardHelp};
+constexpr std::string_view kBountyHunterHelp =
+    "This level's points for the hunt. Type how many go to each of the four arts; Total shows what he has so far. All "
+    "must be given out, and no art takes more than half of them, so choose at least two. Silence and shadows serve "
+    "every night, traps only some.";
+constexpr FormTemplate kBountyHunter{"BountyHunterAbilities", "Bounty Hunter Abilities", kBountyHunterControls,
+                                     kBountyHunterHelp};
 
 const FormTemplate& TemplateOf(Allotment allotment) {
   if (allotment == Allotment::Bard) return kBard;

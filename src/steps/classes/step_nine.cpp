@@ -56,7 +56,15 @@ constexpr auto kStepNineControls = [] {
   add(ButtonAt(kLastRow, 0, kAbort, "&Abort", ButtonRole::Cancel), 4);
   return controls;
 }();
-constexpr FormTemplate kStepNine{"StepNine", "Step 9", kStepNineControls};
+constexpr std::string_view kStepNineHelp =
+    "Here he gets his calling. The list has every class that his scores, race, birth and flaws allow and whose book "
+    "is in use; Why not tells of any other what stands in the way. Choosing a class costs nothing and shows at once "
+    "the BP that it brings, which are paid once however often you change your mind. Classes with a stroke between "
+    "their names are multiclasses: broader, and slower in every level that follows.\n\n"
+    "OK makes it stand: hit points, saves, fighting and what the class grants are rolled and written now, and cannot "
+    "be changed but by Undo. An empty list means that flaws, a low birth or poor scores have shut every door; then "
+    "take back a flaw or the last step, or Abort and begin anew.";
+constexpr FormTemplate kStepNine{"StepNine", "Step 9", kStepNineControls, kStepNineHelp};
 
 constexpr std::string_view kNoClass = "Please Pick";
 

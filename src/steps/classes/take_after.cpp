@@ -25,7 +25,12 @@ constexpr ControlTemplate kTakeAfterControls[] = {
     ButtonAt(4, 1, kYes, "&Yes", ButtonRole::Default),
     ButtonAt(4, 1, kNo, "&NO", ButtonRole::Cancel),
 };
-constexpr FormTemplate kTakeAfter{"TakeAfter", kTitle, kTakeAfterControls};
+constexpr std::string_view kTakeAfterHelp =
+    "A half-blood may take after one side of the family. For 30 BP the race that you choose here decides which "
+    "classes are open and how far he rises in them, in place of his own; scores and looks stay. It is offered only "
+    "here. NO costs nothing. It is a great part of the BP you have: take it for a class that you could not have "
+    "otherwise.";
+constexpr FormTemplate kTakeAfter{"TakeAfter", kTitle, kTakeAfterControls, kTakeAfterHelp};
 
 }  // namespace
 

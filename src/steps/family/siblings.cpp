@@ -43,8 +43,12 @@ constexpr auto SiblingsControls(int lines) {
 }
 constexpr auto kLegitimateControls = SiblingsControls(1);
 constexpr auto kIllegitimateControls = SiblingsControls(2);
-constexpr FormTemplate kLegitimateSiblings{"Siblings", "Siblings", kLegitimateControls};
-constexpr FormTemplate kIllegitimateSiblings{"Siblings", "Siblings", kIllegitimateControls};
+constexpr std::string_view kSiblingsHelp =
+    "The brothers and sisters that Step 6 counted, one line each: whether one lives, what he or she is to the "
+    "character, and whether they are twins. Charisma decides who is a friend and who a rival. There is nothing to "
+    "choose here and no second roll; note the names that you will give them, and OK goes on to quirks and flaws.";
+constexpr FormTemplate kLegitimateSiblings{"Siblings", "Siblings", kLegitimateControls, kSiblingsHelp};
+constexpr FormTemplate kIllegitimateSiblings{"Siblings", "Siblings", kIllegitimateControls, kSiblingsHelp};
 
 /// The dice of a sibling, thrown in the order of the fields.
 SiblingRolls RollSibling(Game& game) {

@@ -67,7 +67,15 @@ constexpr auto kStepSixControls = [] {
   controls[next++].ColumnSpan = 2;
   return controls;
 }();
-constexpr FormTemplate kStepSix{"StepSix", "Step 6", kStepSixControls};
+constexpr std::string_view kStepSixHelp =
+    "This step settles who he was before he was anybody: age, hand and size, the class he was born into, his parents "
+    "and his place among his brothers and sisters. Press the buttons from the top; each opens the next, and OK takes "
+    "you on when the last is done. The line under the table tells what is wanted now.\n\n"
+    "The first press of a button is free. A second one rolls it again for 1 BP, but only until a later roll has "
+    "closed it. If you pay for anything here, pay for social class: it decides which classes will have him, his Honor "
+    "and his purse. Quality of the parents may bring BP or cost them, and may bring quirks, which you roll at once. A "
+    "low birth is playable, and often the better story.";
+constexpr FormTemplate kStepSix{"StepSix", "Step 6", kStepSixControls, kStepSixHelp};
 
 int ButtonOf(Prior prior) {
   return kFirstButton + static_cast<int>(prior);

@@ -25,7 +25,14 @@ constexpr ControlTemplate kStepFourteenControls[] = {
     ButtonAt(2, 0, kOk, "&OK", ButtonRole::Default),
     ButtonAt(2, 0, kAbort, "&Abort", ButtonRole::Cancel),
 };
-constexpr FormTemplate kStepFourteen{"StepFourteen", "Step 14", kStepFourteenControls};
+constexpr std::string_view kStepFourteenHelp =
+    "What he holds right. The list shows the alignments that all his classes allow; choose one, then OK. It costs "
+    "nothing, and it is hard to change in play: an act against it costs Honor, and a cleric, paladin or druid may "
+    "lose what his class gave him. Honor awards differ by alignment too, as the referee's tables tell.\n\n"
+    "Choose how you will really play him, and ask what the others have: one evil soul among the good makes a short "
+    "campaign. If things happened in his youth that only a good man, or only another, would have done, a quirk may "
+    "follow now. Abort ends the run, with the character in memory.";
+constexpr FormTemplate kStepFourteen{"StepFourteen", "Step 14", kStepFourteenControls, kStepFourteenHelp};
 
 /// A row in which levels can be gained; the rows of combinations and the blank ones are none.
 bool IsRealClass(const ClassRecord& row) {

@@ -79,7 +79,15 @@ constexpr ControlTemplate kEquipControls[] = {
     ButtonAt(12, 1, kRemove, "<< &Remove"),
     ButtonAt(12, 2, kOk, "&OK", ButtonRole::Cancel),
 };
-constexpr FormTemplate kEquip{"Equip", "Step 19", kEquipControls};
+constexpr std::string_view kEquipHelp =
+    "The shop, and the last step. Choose a category, or type a part of a name in Search, which looks through "
+    "everything; choose what you want, see its price and weight, and press Add. Change is made from greater coins by "
+    "itself. Remove gives the whole price back, so nothing is lost by trying. Your own goods from the Custom Item "
+    "Editor are sold beside the others.\n\n"
+    "Buy in this order: the weapon he is proficient with, armor that his class lets him wear, a pack, food for a "
+    "week, light, a rope. Keep some gold for the inn. Weight counts what he carries; a mule carries itself and what "
+    "is on it. OK ends the run and asks whether to save.";
+constexpr FormTemplate kEquip{"Equip", "Step 19", kEquipControls, kEquipHelp};
 
 constexpr auto kEditEquipControls = [] {
   std::array<ControlTemplate, std::size(kEquipControls) + 2> controls{};
@@ -91,7 +99,11 @@ constexpr auto kEditEquipControls = [] {
       .Kind = ControlKind::Radio, .Id = kAddFree, .Row = 11, .Column = 1, .Text = "&Free of charge"};
   return controls;
 }();
-constexpr FormTemplate kEditEquip{"EditEquip", "Equipment", kEditEquipControls};
+constexpr std::string_view kEditEquipHelp =
+    "What the character owns, for changes in play. Buy and sell as in the shop, in his coins and at the full price, "
+    "or choose the way without coins for what was found, stolen or lost. Search looks through all categories. The "
+    "weight follows at once.";
+constexpr FormTemplate kEditEquip{"EditEquip", "Equipment", kEditEquipControls, kEditEquipHelp};
 
 using GoodList = std::vector<const EquipmentRecord*>;
 

@@ -22,7 +22,12 @@ constexpr ControlTemplate kStepEightteenControls[] = {
     ButtonAt(3, 0, kOk, "&OK", ButtonRole::Default),
     ButtonAt(3, 0, kAbort, "&Abort", ButtonRole::Cancel),
 };
-constexpr FormTemplate kStepEightteen{"StepEightteen", "Step 18: Name your character", kStepEightteenControls};
+constexpr std::string_view kStepEightteenHelp =
+    "His name, as it will stand on the sheet and over his grave, and yours beside it. OK takes any name but the one "
+    "he was made with, and goes on to the shop. A name that the others can say is worth more than one they can not "
+    "spell. It also becomes the name of the file that is offered for saving.";
+constexpr FormTemplate kStepEightteen{"StepEightteen", "Step 18: Name your character", kStepEightteenControls,
+                                      kStepEightteenHelp};
 
 }  // namespace
 

@@ -18,7 +18,11 @@ constexpr ControlTemplate kMoneyBPControls[] = {
     ButtonAt(2, 0, kOk, "&OK", ButtonRole::Default),
     ButtonAt(2, 0, kAbort, "&Abort", ButtonRole::Cancel),
 };
-constexpr FormTemplate kMoneyBP{"MoneyBP", "Money", kMoneyBPControls};
+constexpr std::string_view kMoneyBPHelp =
+    "Whole BP, none or as many as you have, go into the roll for money: each adds two twelve-sided dice to its d100. "
+    "They are spent, whatever comes. A BP or two lifts a poor total out of the debts; more is for those who hunt the "
+    "inheritance. OK rolls, Abort ends the generation.";
+constexpr FormTemplate kMoneyBP{"MoneyBP", "Money", kMoneyBPControls, kMoneyBPHelp};
 
 }  // namespace
 

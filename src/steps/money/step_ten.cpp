@@ -42,7 +42,15 @@ constexpr ControlTemplate kStepTenControls[] = {
     ButtonAt(7, 0, kOk, "&OK", ButtonRole::Default),
     ButtonAt(7, 0, kAbort, "&Abort", ButtonRole::Cancel),
 };
-constexpr FormTemplate kStepTen{"StepTen", "Step 10", kStepTenControls};
+constexpr std::string_view kStepTenHelp =
+    "Two buttons end his youth. Class Adjusted Age adds the years that his class took to learn; a mage's are many, a "
+    "thief's few. Starting Money asks how many BP you put into the roll, then throws d100 with them, his class, his "
+    "birth and his family added: much of it is silver spoon. High totals bring an inheritance, from a father's weapon "
+    "up to a deed of land; the lowest bring his father's debts. An orphan has half.\n\n"
+    "The first press of each is free. Every further one costs 1 BP, and the new result replaces the old, better or "
+    "worse. Both must have been pressed before OK. Mind that BP left after the skills become 25 gold each: money can "
+    "wait, a bad inheritance can not.";
+constexpr FormTemplate kStepTen{"StepTen", "Step 10", kStepTenControls, kStepTenHelp};
 
 /// What has been rolled while the dialog is open. The character's age is written on OK only.
 struct StepTenRolls {

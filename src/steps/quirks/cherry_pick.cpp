@@ -101,7 +101,15 @@ constexpr ControlTemplate kCherryPickControls[] = {
     ButtonAt(9, 0, kOk, "OK", ButtonRole::Default),
     ButtonAt(9, 0, kAbort, "&Abort", ButtonRole::Cancel),
 };
-constexpr FormTemplate kCherryPick{"CherryPick", kQuirksCaption, kCherryPickControls};
+constexpr std::string_view kCherryPickHelp =
+    "Quirks and flaws are what is wrong with him, and they are paid for. On this page you may pick: at most two minor "
+    "ones for 2 BP each and one major for 4. Choose in a box, press Add; Remove takes it off again. What he was born "
+    "with stands on the right, and stays.\n\n"
+    "Or do as the game means it: type 1 to 9 beside Rolls and press Roll. Then the dice choose, each row pays what it "
+    "is worth, and a refusal costs 1 BP. The picks of this page are worth nothing then.\n\n"
+    "A pick from an almanac binds him to a class of that almanac; you are asked before it counts. Look at what a flaw "
+    "does to the class that you have in mind. OK goes on, with none if you like.";
+constexpr FormTemplate kCherryPick{"CherryPick", kQuirksCaption, kCherryPickControls, kCherryPickHelp};
 
 /// New items for a box or list; what was selected stays so if it is still there.
 void Refill(Form& form, int id, std::vector<std::string> items) {

@@ -21,14 +21,22 @@ constexpr ControlTemplate kMinorQuirkControls[] = {
     ButtonAt(1, 0, kMinorMental, "6&F: Quirks, Minor (Mental)", ButtonRole::Default),
     ButtonAt(2, 0, kMinorPersonality, "6&H: Quirks, Minor (Personality)", ButtonRole::Cancel),
 };
-constexpr FormTemplate kFreeMinorQuirk{"MinorQuirk", "Minor Quirk", kMinorQuirkControls};
+constexpr std::string_view kFreeMinorQuirkHelp =
+    "His past has left him a minor quirk. It brings no BP; you only choose the table. Mental quirks trouble his mind "
+    "and can spoil a fight; personality is how he treats others. The result is rolled at once, and refusing it costs "
+    "1 BP.";
+constexpr FormTemplate kFreeMinorQuirk{"MinorQuirk", "Minor Quirk", kMinorQuirkControls, kFreeMinorQuirkHelp};
 
 constexpr ControlTemplate kMajorQuirkControls[] = {
     TitleAt(0, 0, "You just earned a free major quirk!"),
     ButtonAt(1, 0, kMajorMental, "6&G: Quirks, Major (Mental)", ButtonRole::Default),
     ButtonAt(2, 0, kMajorPersonality, "6&I: Quirks, Major (Personality)", ButtonRole::Cancel),
 };
-constexpr FormTemplate kFreeMajorQuirk{"MajorQuirk", "Major Quirk", kMajorQuirkControls};
+constexpr std::string_view kFreeMajorQuirkHelp =
+    "His past has left him a major quirk. It brings no BP; you only choose the table. A major mental quirk can take "
+    "him out of a fight, one of personality out of the party's good graces. The result is rolled at once, and "
+    "refusing it costs 1 BP.";
+constexpr FormTemplate kFreeMajorQuirk{"MajorQuirk", "Major Quirk", kMajorQuirkControls, kFreeMajorQuirkHelp};
 
 std::string_view TableOfButton(int id) {
   switch (id) {

@@ -47,8 +47,17 @@ constexpr ControlTemplate kQuirksandFlawsControls[] = {
     ButtonAt(10, 0, kOk, "OK", ButtonRole::Default),
     ButtonAt(10, 0, kAbort, "&Abort", ButtonRole::Cancel),
 };
-constexpr FormTemplate kQuirksandFlaws{"QuirksandFlaws", kQuirksCaption, kQuirksandFlawsControls};
-constexpr FormTemplate kQuirksandFlawsMage{"QuirksandFlawsMage", kQuirksCaption, kQuirksandFlawsControls};
+constexpr std::string_view kQuirksHelp =
+    "Here the dice say what is wrong with him. The box lists every table that is owed a roll: choose one and press "
+    "Roll; Next tells what that will be. A 6A table is where each of your rolls begins; pick that of the codex, or of "
+    "an almanac, which then binds him to a class of that almanac. Many rows send you on to a lower table, and that "
+    "roll must be made too.\n\n"
+    "Each result asks whether you keep it. To refuse one costs 1 BP, paid at once; what you keep pays its own BP, "
+    "shown as Potential BPs and added when the step ends. The same flaw can come twice and pay twice. Some rows the "
+    "referee decides, at the end of the run.\n\n"
+    "OK goes on when no roll is owed any more.";
+constexpr FormTemplate kQuirksandFlaws{"QuirksandFlaws", kQuirksCaption, kQuirksandFlawsControls, kQuirksHelp};
+constexpr FormTemplate kQuirksandFlawsMage{"QuirksandFlawsMage", kQuirksCaption, kQuirksandFlawsControls, kQuirksHelp};
 
 void ShowNext(const Game& game, const QuirkWork& work, Form& form) {
   form.SetText(kNext, NextQuirkRoll(game, work, form.Selection(kTable)));

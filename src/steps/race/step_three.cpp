@@ -59,7 +59,16 @@ constexpr ControlTemplate kStepThreeControls[] = {
     ButtonAt(17, 0, kAbort, "&Abort", ButtonRole::Cancel),
     ButtonAt(17, 0, kRollAgain, "&Roll again"),
 };
-constexpr FormTemplate kStepThree{"StepThree", "Step 3", kStepThreeControls};
+constexpr std::string_view kStepThreeHelp =
+    "Here the character gets his seven abilities and his race. Each ability is 3d6 with a percentile behind it, in "
+    "the order rolled; Roll again throws all of them anew, as often as you like, and forgets what was traded. The "
+    "list holds only the races that these scores allow, and choosing one shows its changes and its Building Points at "
+    "once.\n\n"
+    "The page's menu trades two points of an ability for one of another, burns a point for 2 BP, or takes scores from "
+    "your own dice, at the price of all BP so far. Trade before you choose, for it forgets the race, and burn with "
+    "care: a score once lost bars races and classes.\n\n"
+    "Then pick the native language, and Continue. After this page the race stands.";
+constexpr FormTemplate kStepThree{"StepThree", "Step 3", kStepThreeControls, kStepThreeHelp};
 
 constexpr int kFirstWhole = 3000;
 constexpr int kFirstPercentile = 3007;
@@ -86,7 +95,11 @@ constexpr auto kEnterAbilityControls = [] {
   controls[next].ColumnSpan = 3;
   return controls;
 }();
-constexpr FormTemplate kEnterAbility{"EnterAbility", "Enter Stats", kEnterAbilityControls};
+constexpr std::string_view kEnterAbilityHelp =
+    "For scores thrown with your own dice: 3d6 in the first column, 3 to 18, and the percentile in the second, 1 to "
+    "100. OK takes them all at once. Either way out of this page costs all the Building Points gained so far, so "
+    "enter scores before you trade or burn.";
+constexpr FormTemplate kEnterAbility{"EnterAbility", "Enter Stats", kEnterAbilityControls, kEnterAbilityHelp};
 
 using EnteredScores = std::array<AbilityScore, kAbilityCount>;
 

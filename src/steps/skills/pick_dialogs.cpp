@@ -28,8 +28,15 @@ constexpr ControlTemplate kPickControls[] = {
     ListAt(0, 0, kChoices, 44, 12),
     ButtonAt(1, 0, kAccept, "&Accept Selection", ButtonRole::Default),
 };
-constexpr FormTemplate kFreeRemote{"FreeRemote", "Pick your free skill", kPickControls};
-constexpr FormTemplate kFreeWeapon{"FreeWeapon", "Pick your free item", kPickControls};
+constexpr std::string_view kFreeRemoteHelp =
+    "He has earned a skill that costs no BP. Choose one of the list and press Accept Selection. It is taken as if it "
+    "had been bought once, with its die rolled; what he has already becomes better by it. There is no second choice "
+    "afterwards.";
+constexpr FormTemplate kFreeRemote{"FreeRemote", "Pick your free skill", kPickControls, kFreeRemoteHelp};
+constexpr std::string_view kFreeWeaponHelp =
+    "Something here comes for one of the things in this list, such as a weapon that he can already wield. Choose the "
+    "one and press Accept Selection. Choose what he will carry for years, not what he carries today.";
+constexpr FormTemplate kFreeWeapon{"FreeWeapon", "Pick your free item", kPickControls, kFreeWeaponHelp};
 
 // --- Instruments -------------------------------------------------------------------------------------------------
 
@@ -45,7 +52,10 @@ constexpr ControlTemplate kBardInstrumentControls[] = {
     ButtonAt(4, 0, kFirstInstrument + 3, "&Stringed Instrument"),
     ButtonAt(5, 0, kFirstInstrument + 4, "&Wind Instrument"),
 };
-constexpr FormTemplate kBardInstrument{"BardInstrument", "Instrument", kBardInstrumentControls};
+constexpr std::string_view kBardInstrumentHelp =
+    "Every bard is taught an instrument, at no cost. Press its kind; then you are asked which it is. Whatever you "
+    "take must be carried through dungeons, so consider a small one. The skill can be bought again in Step 12.";
+constexpr FormTemplate kBardInstrument{"BardInstrument", "Instrument", kBardInstrumentControls, kBardInstrumentHelp};
 
 // --- Proficiencies -----------------------------------------------------------------------------------------------
 

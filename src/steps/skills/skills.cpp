@@ -96,7 +96,16 @@ constexpr auto kSkillsControls = [] {
   add(ButtonAt(kButtonRow + 1, 0, kAbort, "Abo&rt", ButtonRole::Cancel), kColumns);
   return controls;
 }();
-constexpr FormTemplate kSkills{"Skills", "Skills", kSkillsControls};
+constexpr std::string_view kSkillsHelp =
+    "Building Points become what he can do. Choose a category or search, choose a skill, press Add/Improve Skill: he "
+    "pays its Cost, and its Course Die is rolled and added. The first time he also gets a start from the abilities "
+    "shown. Buy it again to get better; each time costs the same. A refusal stands below the price, for want of BP, "
+    "of another skill first, or of the class for it.\n\n"
+    "Budgets such as Arcane or Language BP pay for their own kind before the others. Free picks go by Take as Free. "
+    "Proficiencies, Talents and Tattoos are bought from the same BP, so visit them first: a fighter without his "
+    "weapon is a porter.\n\n"
+    "OK leaves for good, and every BP left becomes 25 gold. Abort ends the run with him unfinished.";
+constexpr FormTemplate kSkills{"Skills", "Skills", kSkillsControls, kSkillsHelp};
 
 /// The dialog at work: its form, and the lines of its lists as the rules know them.
 struct SkillsPage {

@@ -47,7 +47,14 @@ constexpr ControlTemplate kTalentsControls[] = {
     ButtonAt(6, 1, kRemove, "&Remove"),
     ButtonAt(6, 1, kClose, "&Close", ButtonRole::Cancel),
 };
-constexpr FormTemplate kTalents{"Talents", "Talents", kTalentsControls};
+constexpr std::string_view kTalentsHelp =
+    "Talents are gifts of blood: the list holds those that his race may have, and a few that his class or package "
+    "opens. Choose one; its cost in BP stands below the list. Add buys it, Remove gives the BP back, as long as you "
+    "are on this page of skills.\n\n"
+    "A talent counts once, but those called a Bonus may be bought again and again, and some ask which weapon or thing "
+    "they are for. What his race gave him is listed too, cost nothing, and stays. Talents are dear beside skills, so "
+    "begin with those that work in every fight.";
+constexpr FormTemplate kTalents{"Talents", "Talents", kTalentsControls, kTalentsHelp};
 
 /// The open page, with the talents behind the lines of its two lists.
 struct TalentsPage {

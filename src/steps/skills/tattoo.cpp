@@ -92,7 +92,14 @@ constexpr auto kTattooControls = [] {
   addWide(ButtonAt(kButtonRow + 1, 0, kRemove, "Remove &Tattoo"));
   return controls;
 }();
-constexpr FormTemplate kTattoo{"Tattoo", "Tattoo", kTattooControls};
+constexpr std::string_view kTattooHelp =
+    "Only pixie fairies wear these. Each tattoo costs the BP listed and half a point of Constitution, some a whole "
+    "one, and needs a free place on the body of the kind that it names: forehead, upper or lower arms. Choose it in "
+    "the listing and press the button of the place. Nothing happens where it can not go, or if the BP do not "
+    "reach.\n\n"
+    "Each can be had once, and a place holds one; the great one for Strength takes both lower arms. Remove Tattoo "
+    "gives the BP and the Constitution back. Count hit points before you cover him: a fairy has few to lose.";
+constexpr FormTemplate kTattoo{"Tattoo", "Tattoo", kTattooControls, kTattooHelp};
 
 bool IsFree(const Game& game, int place) {
   return game.sheet.TattooChoices[static_cast<std::size_t>(place)] == 0;

@@ -69,7 +69,16 @@ constexpr ControlTemplate kWeaponProfControls[] = {
     ButtonAt(11, 0, kTake, "&Take as a Proficiency", ButtonRole::Default),
     ButtonAt(11, 1, kClose, "&Close", ButtonRole::Cancel),
 };
-constexpr FormTemplate kWeaponProf{"WeaponProf", "Weapon Proficiencies", kWeaponProfControls};
+constexpr std::string_view kWeaponProfHelp =
+    "What he can wield. Class lists the weapons of his class, All every one there is. Take as a Proficiency costs a "
+    "slot and 1 BP; a fighter's first one needs no BP. Choosing a weapon shows its damage against foes from tiny to "
+    "gargantuan.\n\n"
+    "Specialize does what it says for a weapon he has, at the price in BP and slots that the note tells, if his class "
+    "lets him; Increase goes on to mastery, which takes a fighter of the fifth level. Remove gives back what a weapon "
+    "cost; an ability taken for a weapon costs as much again to give up. A gladiator pays two slots for a missile "
+    "weapon.\n\n"
+    "Slots not used now are kept for later levels. One good weapon, one to throw and a dagger will do for most.";
+constexpr FormTemplate kWeaponProf{"WeaponProf", "Weapon Proficiencies", kWeaponProfControls, kWeaponProfHelp};
 
 /// The open page, with the proficiencies behind the lines of its three lists.
 struct WeaponProfPage {

@@ -55,8 +55,21 @@ constexpr auto kSpellControls = [] {
   controls[next++] = At(ButtonAt(5 + kNoteRows, 0, kClose, "&Close", ButtonRole::Cancel), 4);
   return controls;
 }();
-constexpr FormTemplate kSpellSellection{"SpellSellection", "Spell Selection", kSpellControls};
-constexpr FormTemplate kFreeSpellSellection{"FreeSpellSellection", "Free Spell", kSpellControls};
+constexpr std::string_view kSpellSellectionHelp =
+    "The spells a new mage has learned. What his class and his master gave him was dealt by the dice already and "
+    "stands in Your Spell List; here you choose the cantrips. Pick one of the groups in the box on the left, choose a "
+    "cantrip and press Add; Remove gives it back. The line on top tells how many more he may have: twice his "
+    "Intelligence, far fewer under a chintzy mentor. They cost no BP, and unused places are lost.\n\n"
+    "Below stands all there is to know of the spell you choose: range, components, duration and the rest. The box on "
+    "the right shows his spells of any level. Close goes on. Take some cantrips of use at night and in rain, and one "
+    "that amuses a tavern.";
+constexpr FormTemplate kSpellSellection{"SpellSellection", "Spell Selection", kSpellControls, kSpellSellectionHelp};
+constexpr std::string_view kFreeSpellSellectionHelp =
+    "His years at school earned him a spell for nothing; the line on top tells of what levels. Choose the list in the "
+    "box on the left, read the spell below it, and press Add: that one pick closes the page. Take one he could not "
+    "learn soon by himself.";
+constexpr FormTemplate kFreeSpellSellection{"FreeSpellSellection", "Free Spell", kSpellControls,
+                                            kFreeSpellSellectionHelp};
 
 std::vector<std::string> Categories(std::size_t count) {
   return {SpellCategories.begin(), SpellCategories.begin() + static_cast<std::ptrdiff_t>(count)};

@@ -269,7 +269,7 @@ TEST_F(SkillsTest, TheScholarsAdjustmentReachesTheDie) {
     game->sheet.PackageName = package;
     game->dice.RandomState = seed;
     Score(skill) = 0;
-    Form form(FormTemplate{"None", "", {}});
+    Form form(FormTemplate{"None", "", {}, ""});
     ShowSkillCost(*game, form, skill);
     Buy(skill, 0);
     return Score(skill);
