@@ -17,7 +17,6 @@
 #include "desktop/form_window.h"
 #include "desktop/main_window.h"
 #include "desktop/program_icon.h"
-#include "platform/main_window.h"
 #include "platform/progress_form.h"
 
 namespace veld {
@@ -192,19 +191,24 @@ void DesktopPlatform::Fail(std::exception_ptr error) {
 void DesktopPlatform::RunMainWindow(const MainWindow& window) {
   main_ = std::make_unique<MainPage>();
   main_->setWindowTitle(title_.isEmpty() ? ToQtTitle(window.Title) : title_);
+  if (page_.empty()) page_ = window.Page;
   QEventLoop loop;
   mainLoop_ = &loop;
   main_->onCommand = [&](int id) {
     if (window.onCommand) Act([&] { window.onCommand(id); });
   };
   main_->onClosed = [&] { loop.quit(); };
-  // The paper needs no font and no picture. The menu and the icon come when the player has the window before him.
+  // The paper needs no font and no picture. The menu, the icon and the page come when the player has the window before
+  // him.
   new AfterFirstPaint(*main_, [&] {
     Act([&] {
       Style();
       main_->SetMenu(window.Menu);
       QApplication::setWindowIcon(ProgramIcon());
-      if (window.onStart) SoonAfter([&] { window.onStart(); });
+      SoonAfter([&] {
+        main_->ShowPage(Style(), page_);
+        if (window.onStart) window.onStart();
+      });
     });
   });
   main_->show();
@@ -223,6 +227,11 @@ void DesktopPlatform::CloseMainWindow() {
 void DesktopPlatform::SetMainTitle(std::string_view title) {
   title_ = ToQtTitle(title);
   if (main_) main_->setWindowTitle(title_);
+}
+
+void DesktopPlatform::ShowPage(const std::vector<PageLine>& page) {
+  page_ = page;
+  if (main_ && style_) main_->ShowPage(*style_, page_);
 }
 
 // --- Messages, files, progress -----------------------------------------------------------------------------------

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "desktop/style.h"
+#include "platform/main_window.h"
 #include "platform/platform.h"
 #include "platform/windows_beside.h"
 
@@ -37,6 +38,7 @@ class DesktopPlatform : public Platform {
   void RunMainWindow(const MainWindow& window) override;
   void CloseMainWindow() override;
   void SetMainTitle(std::string_view title) override;
+  void ShowPage(const std::vector<PageLine>& page) override;
   void BeginProgress(std::string_view caption, std::string_view text) override;
   bool ShowProgress(int percent) override;
   void EndProgress() override;
@@ -68,6 +70,7 @@ class DesktopPlatform : public Platform {
   QEventLoop* mainLoop_ = nullptr;
   std::exception_ptr error_;  ///< of a handler that no dialog runs; thrown on by RunMainWindow
   QString title_;
+  std::vector<PageLine> page_;  ///< of the main window
   QObject timers_;
 };
 

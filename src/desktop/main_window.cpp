@@ -36,6 +36,18 @@ void MainPage::SetMenu(const std::vector<MenuItem>& items) {
   layout()->setMenuBar(menu);
 }
 
+void MainPage::ShowPage(const PaperStyle& style, const std::vector<PageLine>& page) {
+  if (!page_) {
+    page_ = new PageView(style, kPaperTop, kPaperPitch, paper_);
+    auto* layout = new QVBoxLayout(paper_);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(page_);
+    setFocusProxy(page_);
+    page_->setFocus();
+  }
+  page_->Show(page);
+}
+
 QPoint MainPage::PagePlace() const {
   return paper_->mapToGlobal(QPoint(0, 0));
 }

@@ -19,22 +19,7 @@ namespace veld {
 
 namespace {
 
-void DrawRules(QPainter& painter, int first, int pitch, const QRect& area) {
-  for (int y = first; y <= area.bottom(); y += pitch) {
-    if (y >= area.top()) painter.fillRect(area.left(), y, area.width(), 1, QColor(kRuleColor));
-  }
-}
-
 constexpr int kFrameGap = 4;  // from a frame to the text in it
-
-/// The height that the text engine gives a line of its own accord, which is not quite that of the font's metrics.
-double LineHeight(const QFont& font) {
-  QTextLayout layout("X", font);
-  layout.beginLayout();
-  layout.createLine().setLineWidth(1000);
-  layout.endLayout();
-  return layout.lineAt(0).height();
-}
 
 /// Draws a row of a list: its text on the rule, a wash over the chosen one.
 class RowPainter : public QStyledItemDelegate {
@@ -72,6 +57,20 @@ class RowPainter : public QStyledItemDelegate {
 };
 
 }  // namespace
+
+void DrawRules(QPainter& painter, int first, int pitch, const QRect& area) {
+  for (int y = first; y <= area.bottom(); y += pitch) {
+    if (y >= area.top()) painter.fillRect(area.left(), y, area.width(), 1, QColor(kRuleColor));
+  }
+}
+
+double LineHeight(const QFont& font) {
+  QTextLayout layout("X", font);
+  layout.beginLayout();
+  layout.createLine().setLineWidth(1000);
+  layout.endLayout();
+  return layout.lineAt(0).height();
+}
 
 // --- Paper -------------------------------------------------------------------------------------------------------
 

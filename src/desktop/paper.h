@@ -13,6 +13,12 @@
 
 namespace veld {
 
+/// Draws the rules of paper in `area`: the first at y = `first`, which may lie above it.
+void DrawRules(QPainter& painter, int first, int pitch, const QRect& area);
+
+/// The height that the text engine gives a line of its own accord, which is not quite that of the font's metrics.
+double LineHeight(const QFont& font);
+
 /// White paper with a pale-blue rule under every line.
 class Paper : public QWidget {
  public:

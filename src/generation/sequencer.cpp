@@ -47,10 +47,11 @@ bool IsSingleClass(const Game& game) {
   return !Contains(game.sheet.LevelText, "/");
 }
 
-/// Runs a stage if its step is due, with a recovery copy of what the character is by then.
+/// Runs a stage if its step is due, with a recovery copy and the main window's page of what the character is by then.
 void RunAt(Game& game, int step, void (*stage)(Game&)) {
   if (game.run.CurrentStep != step) return;
   KeepRecoveryCopy(game);
+  ShowCharacter(game);
   stage(game);
 }
 
@@ -198,6 +199,7 @@ void RollRefereeQuirks(Game& game) {
 
 void RunGeneration(Game& game) {
   KeepRecoveryCopy(game);
+  ShowCharacter(game);
   RunStepSix(game);
   RunAt(game, 7, RunFamilyAndQuirks);
   RunAt(game, 8, RunStepEight);
@@ -211,6 +213,7 @@ void RunGeneration(Game& game) {
   RunAt(game, 14, RunStepFourteen);
   RunAt(game, 15, RunStepEightteen);
   RunAt(game, 19, FinishCharacter);
+  ShowCharacter(game);  // of a run that ended before its last stage too
 }
 
 }  // namespace veld

@@ -180,6 +180,7 @@ void JournalPlatform::GoLive() {
   journal_.Entries.resize(std::min(next_, journal_.Entries.size()));
   isReplaying_ = false;
   if (!title_.empty()) front_.SetMainTitle(std::exchange(title_, {}));
+  if (onHandOver) onHandOver(*game_);
   if (!std::exchange(isMisfit_, false)) return;
   journal_.TakenBack.clear();
   KeepWhole();

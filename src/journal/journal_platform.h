@@ -35,6 +35,9 @@ class JournalPlatform : public Platform, private FormActs {
   bool HasRun() const { return game_ != nullptr; }
   const RunJournal& Journal() const { return journal_; }
 
+  /// Shows the character on the main window's page when a run that was played again is handed over.
+  std::function<void(Game&)> onHandOver;
+
   // Undo and Redo, also of the main window when the run has ended.
   bool CanTakeBack() const override;
   void TakeBack() override;
@@ -49,6 +52,7 @@ class JournalPlatform : public Platform, private FormActs {
   void RunMainWindow(const MainWindow& window) override { front_.RunMainWindow(window); }
   void CloseMainWindow() override { front_.CloseMainWindow(); }
   void SetMainTitle(std::string_view title) override;
+  void ShowPage(const std::vector<PageLine>& page) override { front_.ShowPage(page); }
   void BeginProgress(std::string_view caption, std::string_view text) override;
   bool ShowProgress(int percent) override;
   void EndProgress() override;

@@ -6,11 +6,13 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace veld {
 
 class Form;
 struct MainWindow;
+struct PageLine;
 
 /// The answer to a question. A rule that says "any answer but Yes" reads Closed as No; a rule that takes a Building
 /// Point "on No" reads Closed as Yes.
@@ -58,6 +60,8 @@ class Platform {
   virtual void RunMainWindow(const MainWindow& window) = 0;
   virtual void CloseMainWindow() = 0;
   virtual void SetMainTitle(std::string_view title) = 0;
+  /// Shows a page on the main window's paper in place of the one before.
+  virtual void ShowPage(const std::vector<PageLine>& /*page*/) {}
 
   /// Long work: shows how far it is (0..100). The second returns false once the player has cancelled.
   virtual void BeginProgress(std::string_view caption, std::string_view text) = 0;

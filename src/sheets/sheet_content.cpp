@@ -208,20 +208,6 @@ void AddSaves(const Sheet& s, SheetContent& content) {
   };
 }
 
-/// The proficiencies with a mark: pass after pass, so that those of one mark stand together.
-std::vector<HeldWeapon> HeldWeapons(const Sheet& sheet) {
-  using namespace ProficiencyMark;
-  std::vector<HeldWeapon> weapons;
-  for (const int pass : {Limited, Proficient, Specialized, kMasteryMark}) {
-    for (std::size_t row = 0; row < kProficiencyRows; ++row) {
-      const int mark = sheet.ProficiencyLevels[row];
-      const ProficiencyRecord& record = ProficiencyTable()[row];
-      if (!record.Name.empty() && std::min(mark, kMasteryMark) == pass) weapons.push_back({&record, mark});
-    }
-  }
-  return weapons;
-}
-
 SheetBlock& AddWeaponTable(SheetContent& content, std::string_view title, std::size_t blanks, std::string_view speed) {
   const std::string lead =
       Headed(blanks, title) +

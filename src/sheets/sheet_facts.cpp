@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <initializer_list>
 
+#include "rules/proficiency_table.h"
 #include "rules/skill_table.h"
 #include "rules/talent_table.h"
 #include "steps/skills/proficiency_purchase.h"
@@ -72,6 +73,19 @@ std::string OneLine(std::string_view text) {
   std::ranges::replace_if(
       line, [](char c) { return c == '\t' || c == '\n' || c == '\r'; }, ' ');
   return line;
+}
+
+std::vector<HeldWeapon> HeldWeapons(const CharacterSheet& sheet) {
+  using namespace ProficiencyMark;
+  std::vector<HeldWeapon> weapons;
+  for (const int pass : {Limited, Proficient, Specialized, kMasteryMark}) {
+    for (std::size_t row = 0; row < kProficiencyRows; ++row) {
+      const int mark = sheet.ProficiencyLevels[row];
+      const ProficiencyRecord& record = ProficiencyTable()[row];
+      if (!record.Name.empty() && std::min(mark, kMasteryMark) == pass) weapons.push_back({&record, mark});
+    }
+  }
+  return weapons;
 }
 
 std::string_view HitAdjustment(const HeldWeapon& held) {

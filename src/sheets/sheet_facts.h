@@ -26,6 +26,9 @@ struct HeldWeapon {
   int Mark;
 };
 
+/// The proficiencies with a mark: pass after pass, so that those of one mark stand together.
+std::vector<HeldWeapon> HeldWeapons(const CharacterSheet& sheet);
+
 /// The adjustments that a mark brings with a weapon, empty for none: "-1" for a limited proficiency.
 std::string_view HitAdjustment(const HeldWeapon& held);
 std::string_view DamageAdjustment(const HeldWeapon& held);

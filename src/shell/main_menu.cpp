@@ -42,7 +42,8 @@ void Load(Game& game) {
 }
 
 void Edit(Game& game, bool (*edit)(Game&)) {
-  if (edit(game)) UpdateMainTitle(game, game.sheet.CharacterName);
+  if (edit(game)) return UpdateMainTitle(game, game.sheet.CharacterName);
+  ShowCharacter(game);  // a cancelled one may have closed the window of Step 3
 }
 
 }  // namespace
@@ -50,10 +51,10 @@ void Edit(Game& game, bool (*edit)(Game&)) {
 void BeginCharacter(Game& game) {
   CloseStepThree(game);
   KeepRecoveryCopy(game);
-  UpdateMainTitle(game, "Nobody");
   ResetCharacter(game);
+  UpdateMainTitle(game, "Nobody");
   RollAbilityScores(game);
-  OpenStepThree(game, RunGeneration);
+  OpenStepThree(game, RunGeneration, ShowCharacter);
 }
 
 void TakeChosenCopy(Game& game, const RecoveryCopy& copy) {

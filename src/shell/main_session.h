@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "generation/main_title.h"
 #include "journal/journal_platform.h"
 #include "store/game.h"
 
@@ -12,7 +13,9 @@ namespace veld {
 /// back the last changes that were made to a finished character.
 class MainSession {
  public:
-  MainSession(Game& game, JournalPlatform& journal) : game_(game), journal_(journal) {}
+  MainSession(Game& game, JournalPlatform& journal) : game_(game), journal_(journal) {
+    journal_.onHandOver = ShowCharacter;
+  }
 
   /// Carries out a command of the main menu.
   void Command(int id);

@@ -6,6 +6,7 @@
 
 #include "generation/main_title.h"
 #include "platform/main_window.h"
+#include "sheets/character_page.h"
 #include "shell/data_folder.h"
 #include "shell/main_menu.h"
 #include "shell/main_session.h"
@@ -24,6 +25,7 @@ int RunVeld(Platform& platform, const std::string& run) {
   MainWindow window;
   window.Title = kProgramTitle;
   window.Menu = MainMenu();
+  window.Page = NobodyPage();
   window.onStart = [&] {
     if (!told.empty()) platform.ShowMessage(told);
     game = MakeGame(journal);

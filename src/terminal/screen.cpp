@@ -66,6 +66,7 @@ struct InkLook {
 constexpr InkLook kInks[] = {
     // Which       Text         Ground       Colour     Plain
     {Ink::Desk, -1, -1, A_NORMAL, A_NORMAL},
+    {Ink::DeskBold, -1, -1, A_BOLD, A_BOLD},
     {Ink::Paper, COLOR_BLACK, COLOR_WHITE, A_NORMAL, A_NORMAL},
     {Ink::Bold, COLOR_BLACK, COLOR_WHITE, A_BOLD, A_BOLD},
     {Ink::Written, COLOR_BLUE, COLOR_WHITE, A_NORMAL, A_NORMAL},

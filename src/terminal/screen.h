@@ -42,7 +42,8 @@ struct Key {
 
 /// How something on the screen is written.
 enum class Ink : std::uint8_t {
-  Desk,      ///< behind the pages
+  Desk,      ///< behind the pages: the page of the main window
+  DeskBold,  ///< its title and headings
   Paper,     ///< labels, lists
   Bold,      ///< titles and headings
   Written,   ///< what the character has

@@ -6,6 +6,7 @@
 #include "platform/control_names.h"
 #include "platform/main_window.h"
 #include "platform/progress_form.h"
+#include "platform/wrap_text.h"
 #include "terminal/cells.h"
 #include "terminal/menu_popup.h"
 #include "terminal/path_form.h"
@@ -17,26 +18,48 @@ namespace {
 
 constexpr int kMostCloseBoxes = 3;     // presses after which a form that stays open is closed
 constexpr int kMostLeftForms = 10000;  // forms left after the end before their run is broken off
+constexpr int kPageMargin = 2;         // cells left and right of the main window's page
+constexpr int kLabelGap = 2;           // from the longest label to the values
 
 /// Ends a run that goes on opening forms after the terminal was lost.
 struct RunBrokenOff {};
 
 }  // namespace
 
-/// What is behind the pages: the menu bar, the title, and a word on how to begin.
+/// What is behind the dialogs: the menu bar, the title, and the page of the main window.
 class TerminalPlatform::Desk : public Layer {
  public:
   explicit Desk(Screen& screen) : screen_(screen) {}
 
   void Draw(bool isActive) override;
   int MenuX(std::size_t menu) const;
+  void ShowPage(const std::vector<PageLine>& page);
+  bool HasPage() const { return !page_.empty(); }
+  void Scroll(KeyKind key);  ///< by a key that scrolls
 
   std::string Title;
   std::vector<MenuItem> Menu;
   int OpenMenu = -1;
 
  private:
+  /// A line of the page as it stands on the screen.
+  struct Row {
+    std::string Label;
+    std::string Text;
+    int X;
+    Ink Look;
+  };
+
+  int Room() const { return std::max(screen_.Rows() - 2, 1); }  // the menu bar is above it, the line of keys below
+  int LastFirst() const { return std::max(static_cast<int>(rows_.size()) - Room(), 0); }
+  void BreakLines();
+  void DrawPage();
+
   Screen& screen_;
+  std::vector<PageLine> page_;
+  std::vector<Row> rows_;
+  int columns_ = 0;  ///< which the page was broken for
+  int first_ = 0;    ///< row shown at the top
 };
 
 struct TerminalPlatform::Progress : ProgressForm {
@@ -67,10 +90,56 @@ void TerminalPlatform::Desk::Draw(bool isActive) {
   // Of a title that is too long the end is shown: the character's name.
   screen_.Put(0, columns - 1 - width, Title, width, Ink::Bar, CellsOf(Title) - width);
   screen_.SetCursor(0, OpenMenu >= 0 ? MenuX(static_cast<std::size_t>(OpenMenu)) : 1);
+  DrawPage();
   if (!isActive) return;
-  constexpr std::string_view kHint = "File, New Character begins: F10, Enter, Enter.";
-  screen_.Put(screen_.Rows() / 2, (columns - CellsOf(kHint)) / 2, kHint, CellsOf(kHint), Ink::Desk);
-  screen_.ShowKeys("F1 Help  F10 menu  Alt+underlined letter that menu");
+  const std::string_view scroll = LastFirst() > 0 ? "Up/Down PgUp/PgDn scroll  " : "";
+  screen_.ShowKeys(std::string(scroll) + "F1 Help  F10 menu  Alt+underlined letter that menu");
+}
+
+void TerminalPlatform::Desk::ShowPage(const std::vector<PageLine>& page) {
+  if (page.empty() || page_.empty() || page.front() != page_.front()) first_ = 0;
+  page_ = page;
+  columns_ = 0;
+}
+
+void TerminalPlatform::Desk::Scroll(KeyKind key) {
+  const int step = key == KeyKind::Up         ? -1
+                   : key == KeyKind::Down     ? 1
+                   : key == KeyKind::PageUp   ? 1 - Room()
+                   : key == KeyKind::PageDown ? Room() - 1
+                   : key == KeyKind::Home     ? -LastFirst()
+                   : key == KeyKind::End      ? LastFirst()
+                                              : 0;
+  first_ = std::clamp(first_ + step, 0, LastFirst());
+}
+
+void TerminalPlatform::Desk::BreakLines() {
+  using Kind = PageLine::Kind;
+  columns_ = screen_.Columns();
+  rows_.clear();
+  int labels = 0;
+  for (const PageLine& line : page_) labels = std::max(labels, CellsOf(line.Label) + kLabelGap);
+  for (const PageLine& line : page_) {
+    if (line.What == Kind::Heading || (line.What == Kind::Text && rows_.size() == 1)) rows_.push_back({});
+    const int x = kPageMargin + (line.What == Kind::Fact ? labels : 0);
+    const bool isBold = line.What == Kind::Title || line.What == Kind::Heading;
+    std::string label = line.Label;
+    const auto width = [](std::string_view text) { return CellsOf(text); };
+    for (std::string& text : WrapText(line.Value, std::max(columns_ - x - kPageMargin, 1), width)) {
+      rows_.push_back({std::exchange(label, {}), std::move(text), x, isBold ? Ink::DeskBold : Ink::Desk});
+    }
+  }
+}
+
+void TerminalPlatform::Desk::DrawPage() {
+  if (columns_ != screen_.Columns()) BreakLines();
+  first_ = std::min(first_, LastFirst());
+  for (int y = 0; y < Room() && first_ + y < static_cast<int>(rows_.size()); ++y) {
+    const Row& row = rows_[static_cast<std::size_t>(first_ + y)];
+    screen_.Put(y + 1, kPageMargin, row.Label, CellsOf(row.Label), Ink::Desk);
+    screen_.Put(y + 1, row.X, row.Text, CellsOf(row.Text), row.Look);
+  }
+  if (LastFirst() > 0) screen_.ScrollBar(1, columns_ - 1, Room(), first_, static_cast<int>(rows_.size()), Ink::Desk);
 }
 
 TerminalPlatform::TerminalPlatform(Screen& screen) : screen_(screen), desk_(std::make_unique<Desk>(screen)) {
@@ -127,8 +196,13 @@ void TerminalPlatform::SetMainTitle(std::string_view title) {
   desk_->Title = DisplayText(title);
 }
 
+void TerminalPlatform::ShowPage(const std::vector<PageLine>& page) {
+  desk_->ShowPage(page);
+}
+
 void TerminalPlatform::RunMainWindow(const MainWindow& window) {
   if (desk_->Title.empty()) desk_->Title = window.Title;
+  if (!desk_->HasPage()) desk_->ShowPage(window.Page);
   desk_->Menu = window.Menu;
   try {
     screen_.Paint();
@@ -154,10 +228,12 @@ void TerminalPlatform::HandleMainKey(const MainWindow& window, const Key& key) {
   }
   if (page) {
     page->HandleKey(key);
-  } else if (key.Kind == KeyKind::Enter || key.Kind == KeyKind::Down) {
+  } else if (key.Kind == KeyKind::Enter) {
     RunMenuBar(window, 0);
   } else if (key.Kind == KeyKind::Help) {
     RunShortcut(window, "F1");
+  } else {
+    desk_->Scroll(key.Kind);
   }
 }
 

@@ -22,6 +22,7 @@ class TerminalPlatform : public Platform {
   void RunMainWindow(const MainWindow& window) override;
   void CloseMainWindow() override { isClosed_ = true; }
   void SetMainTitle(std::string_view title) override;
+  void ShowPage(const std::vector<PageLine>& page) override;
   void BeginProgress(std::string_view caption, std::string_view text) override;
   bool ShowProgress(int percent) override;
   void EndProgress() override;

@@ -16,6 +16,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTextEdit>
@@ -634,6 +635,52 @@ TEST_F(DesktopMain, AWindowThatReplacesAnotherOutlivesItAndExitLeaves) {
         ChooseFromMenuBar(0, 2);
       });
   Play(window);
+}
+
+TEST_F(DesktopMain, ThePageIsReadScrolledAndLeavesTheMenuItsKeys) {
+  using Kind = PageLine::Kind;
+  window.Page = {{Kind::Title, "", "Nobody"}};
+  std::vector<PageLine> page{{Kind::Title, "", "Ann"}, {Kind::Fact, "Race", "Dwarf, Male"}};
+  for (int i = 0; i < 40; ++i) page.push_back({Kind::Heading, "", "Skills"});
+  window.onCommand = [&](int id) {
+    commands.push_back(id);
+    if (id == 50) return platform.ShowPage(page);
+    platform.CloseMainWindow();
+  };
+  window.Menu[0].Items[2].Shortcut = "Ctrl+Z";
+  const auto view = [] { return WindowTitled("Toolkit")->findChild<QTextEdit*>(); };
+  const auto spoken = [&] {
+    QAccessibleInterface* heard = QAccessible::queryAccessibleInterface(view());
+    EXPECT_EQ(heard->text(QAccessible::Name), "The character in memory");
+    EXPECT_TRUE(heard->state().readOnly);
+    return heard->textInterface()->text(0, heard->textInterface()->characterCount());
+  };
+  player.When(
+      "page", [&] { return Window("Toolkit")() && view(); },
+      [&] {
+        EXPECT_EQ(spoken(), "Nobody");
+        Press(view(), Qt::Key_N, Qt::ControlModifier);
+        EXPECT_TRUE(spoken().startsWith("Ann\nRace\tDwarf, Male\nSkills\n")) << spoken().toStdString();
+        const QScrollBar& bar = *view()->verticalScrollBar();
+        Press(view(), Qt::Key_Down);
+        EXPECT_EQ(bar.value(), 20) << "by a rule";
+        Press(view(), Qt::Key_PageDown);
+        const int place = bar.value();
+        EXPECT_GT(place, 200);
+        page[1].Value = "Elf, Male";
+        platform.ShowPage(page);
+        EXPECT_EQ(bar.value(), place) << "the reader keeps his place";
+        Press(view(), Qt::Key_Home);
+        EXPECT_EQ(bar.value(), 0);
+        page[0].Value = "Bo";
+        Press(view(), Qt::Key_End);
+        EXPECT_EQ(bar.value(), bar.maximum());
+        platform.ShowPage(page);
+        EXPECT_EQ(bar.value(), 0) << "another character";
+        Press(view(), Qt::Key_Z, Qt::ControlModifier);
+      });
+  Play(window);
+  EXPECT_EQ(commands, (std::vector<int>{50, 52}));
 }
 
 TEST_F(DesktopMain, WhatAMenuCommandThrowsComesOutOfTheMainWindow) {

@@ -3,11 +3,13 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 
 #include "golden_characters.h"
 #include "rules/class_table.h"
 #include "rules/proficiency_table.h"
+#include "sheets/character_page.h"
 #include "sheets/html_sheet.h"
 #include "sheets/sheet_content.h"
 #include "sheets/sheet_facts.h"
@@ -17,6 +19,7 @@
 #include "sheets/xml_sheet.h"
 #include "steps/classes/class_recalculation.h"
 #include "store/character_file.h"
+#include "store/sheet_accessors.h"
 #include "support/scripted_platform.h"
 #include "text/format.h"
 #include "text/search.h"
@@ -253,6 +256,52 @@ TEST_F(SheetsTest, GoodsOfTheUsersOwnAreNeverHidden) {
   EXPECT_TRUE(Contains(TextSheet(*game), "Jar of teeth x4 1.50 lbs \n"));
   EXPECT_TRUE(Contains(TabSheet(*game), "\n Inventory\t Jar of teeth x4 \t 1.50 lbs "));
   EXPECT_TRUE(Contains(HtmlSheet(*game), "Containers: Packs, Bags, Bottles etc."));
+}
+
+TEST_F(SheetsTest, TheMainWindowsPageSaysOfAFileJustReadWhatItsSheetDoes) {
+  for (const std::string& name : GoldenNames()) {
+    Load(name);
+    const auto before = std::make_unique<CharacterSheet>(game->sheet);
+    const std::vector<PageLine> page = CharacterPage(*game);
+    EXPECT_EQ(std::memcmp(before.get(), &game->sheet, sizeof(CharacterSheet)), 0) << name << " is changed by a look";
+    BringUpToDate(*game);
+    EXPECT_TRUE(CharacterPage(*game) == page) << name;
+
+    const auto told = [&](std::string_view label) {  // by a fact of the label, or under the heading
+      const auto says = [&](const PageLine& line) { return line.Label == label || line.Value == label; };
+      const auto line = std::ranges::find_if(page, says);
+      return line == page.end() ? std::string() : line->Label.empty() ? (line + 1)->Value : line->Value;
+    };
+    const CharacterSheet& s = game->sheet;
+    if (name == "empty") continue;
+    EXPECT_EQ(page.front().Value, OneLine(s.CharacterName));
+    EXPECT_EQ(told("Class and level"), Format("%s %s", s.ClassName, s.LevelText)) << name;
+    EXPECT_EQ(told("Hit points"), Format("%i", s.HitPoints)) << name;
+    EXPECT_EQ(told("Honor"), Format("%i, %s", s.Honor, s.HonorCategory)) << name;
+    EXPECT_TRUE(told("Burden").starts_with(Format("%.2f lbs, ", s.CarriedWeightLbs))) << name;
+    EXPECT_TRUE(told("Strength").starts_with(Format("%i/%i:  ", s.Strength.Whole, s.Strength.Percentile))) << name;
+    EXPECT_TRUE(Contains(told("Strength"), Format("open doors %s, bend bars %i%%", s.OpenDoors, s.BendBars))) << name;
+    EXPECT_TRUE(told("Saving Throws").starts_with(Format("Paralyzation %i, ", BestSave(s.SaveParalyzation)))) << name;
+    EXPECT_TRUE(Contains(told("Saving Throws"), Format(", Staff %i, ", BestSave(s.SaveRod)))) << name;
+    for (const HeldAbility& skill : HeldSkills(s)) {
+      EXPECT_TRUE(Contains(told("Skills"), Format("%s %i%%", skill.Name, skill.Amount))) << name << skill.Name;
+    }
+    for (const HeldWeapon& held : HeldWeapons(s)) {
+      EXPECT_TRUE(Contains(told("Weapon Proficiencies"), TrimRight(held.Weapon->Name))) << name;
+    }
+  }
+}
+
+TEST_F(SheetsTest, ThePageBeginsWithHowToBeginAndGrowsWithTheCharacter) {
+  EXPECT_TRUE(CharacterPage(*game) == NobodyPage());
+  game->run.CurrentStep = 3;
+  EXPECT_EQ(CharacterPage(*game).front().Value, "A character without a name");
+  EXPECT_EQ(CharacterPage(*game).size(), 10U) << "the Building Points, and the abilities under their heading";
+  game->sheet.Intelligence = {19, 1};
+  game->sheet.CarriedWeightLbs = 100000;
+  const std::vector<PageLine> page = CharacterPage(*game);
+  EXPECT_TRUE(Contains(page[6].Value + page[7].Value, "illusion immunity 1st-level, "));
+  EXPECT_TRUE(Contains(page[1].Value, "lbs, more than can be carried (light from ")) << page[1].Value;
 }
 
 }  // namespace

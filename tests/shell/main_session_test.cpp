@@ -96,9 +96,11 @@ TEST_F(MainSessionTest, ARunIsAbortedTakenBackSavedAndTakenUpAgain) {
   EXPECT_EQ(opened, 2);
   EXPECT_FALSE(platform.window->IsClosed());
   EXPECT_NE(game->sheet.RaceName, race) << "the choice goes with the press that followed it";
+  EXPECT_NE(platform.page.at(1).Label, "Race") << "the page goes back with him";
   platform.ExpectForm("StepSix", abort);
   session.Command(kRedo);
   EXPECT_EQ(game->sheet.RaceName, race);
+  EXPECT_EQ(platform.page.at(1).Label, "Race");
 }
 
 TEST_F(MainSessionTest, DiceThrownBesideARunAreThrownForItTooWhenItIsPlayedAgain) {

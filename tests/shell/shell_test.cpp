@@ -107,6 +107,11 @@ TEST_F(ShellTest, MenuCommandsNameTheCharacterInMemory) {
   EXPECT_EQ(platform.mainTitle, "Tolmar's Plain Quellmarch Toolkit - Nobody - is in memory");
   ASSERT_TRUE(game->stepThree);
   const std::shared_ptr<Form> first = game->stepThree;
+  const std::vector<PageLine> rolled = platform.page;
+  EXPECT_EQ(rolled.front().Value, "A character without a name");
+  first->Choose(3021, 0);
+  ASSERT_EQ(platform.page.size(), rolled.size() + 1);
+  EXPECT_EQ(platform.page[1], (PageLine{PageLine::Kind::Fact, "Race", first->SelectedText(3021)}));
   RunMainCommand(*game, kNewCharacter);
   EXPECT_TRUE(first->IsClosed());
 
@@ -116,6 +121,7 @@ TEST_F(ShellTest, MenuCommandsNameTheCharacterInMemory) {
   EXPECT_TRUE(second->IsClosed());
   EXPECT_EQ(game->sheet.CharacterName, "Ada/Bo");
   EXPECT_EQ(platform.mainTitle, "Tolmar's Plain Quellmarch Toolkit - Ada/Bo - is in memory");
+  EXPECT_EQ(platform.page.front().Value, "Ada/Bo");
 
   WriteText("odd.vlf", "nothing of ours");
   platform.ExpectOpenPath("odd.vlf");

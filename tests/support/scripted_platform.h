@@ -34,6 +34,7 @@ class ScriptedPlatform : public Platform {
   std::vector<std::string> questions;  ///< "caption: text"
   std::vector<std::string> forms;      ///< names
   std::string mainTitle;
+  std::vector<PageLine> page;    ///< of the main window
   std::int64_t now = 1;          ///< the clock; ResetCharacter seeds the dice with it
   std::shared_ptr<Form> window;  ///< the window shown last by ShowWindow
   bool mainWindowClosed = false;
@@ -47,6 +48,7 @@ class ScriptedPlatform : public Platform {
   void RunMainWindow(const MainWindow& window) override;
   void CloseMainWindow() override { mainWindowClosed = true; }
   void SetMainTitle(std::string_view title) override { mainTitle = std::string(title); }
+  void ShowPage(const std::vector<PageLine>& shown) override { page = shown; }
   void BeginProgress(std::string_view caption, std::string_view text) override;
   bool ShowProgress(int percent) override;
   void EndProgress() override {}

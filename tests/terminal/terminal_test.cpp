@@ -260,6 +260,29 @@ TEST_F(TerminalTest, AResizedTerminalIsDrawnAnewAndASmallOneScrolls) {
   EXPECT_TRUE(program.Shows("Hexwright") && program.Shows("< Close >")) << program.Shows();
 }
 
+TEST_F(TerminalTest, TheCharacterInMemoryIsReadBehindTheDialogs) {
+  fs::copy_file(std::string(VELD_SOURCE_DIR) + "/tests/sheets/golden/zealot.vlf", data_ / "zealot.vlf");
+  PtyProgram program(RunProgram);
+  PassMessages(program);
+  EXPECT_FALSE(Contains(program.KeysLine(), "scroll")) << "all of it is in sight";
+  program.Command("fl");
+  program.Press("zealot.vlf" + std::string(kEnterKey));
+  program.Press(kEnterKey);  // what was loaded is told
+  EXPECT_TRUE(program.Shows("  Hit points       32")) << program.Shows();
+  EXPECT_TRUE(Contains(program.KeysLine(), "Up/Down PgUp/PgDn scroll")) << program.KeysLine();
+  EXPECT_TRUE(Contains(program.screen.Line(1), "Sister Marl"));
+  program.Press(kDownKey);
+  EXPECT_TRUE(Contains(program.screen.Line(1), "Halfling, Thug, Female")) << program.Shows();
+  program.Press("\x1B[6~");  // Page Down
+  EXPECT_FALSE(program.Shows("Halfling")) << program.Shows();
+  program.Press("\x1BOF");  // End
+  EXPECT_TRUE(program.Shows("Quirks and Flaws")) << program.Shows();
+  program.Resize(50, 60);
+  EXPECT_TRUE(program.Shows("Sister Marl") && program.Shows("Quirks and Flaws")) << program.Shows();
+  program.Command("ha");
+  EXPECT_TRUE(program.Title() == "About VELD" && program.Shows("Sister Marl")) << program.Shows();
+}
+
 /// Ends the program amid a generation, by what `end` does, and expects the character among the recovery copies.
 template <typename End>
 void ExpectRecoveryAfter(const fs::path& data, int (*run)(), End end) {

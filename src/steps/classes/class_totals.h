@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "store/game.h"
 
 namespace veld {
@@ -23,7 +25,17 @@ void SumHitPoints(Game& game);
 /// The hit points of all classes with the bonus on each hit die, as the average of the classes.
 void SetHitPoints(Game& game, const ClassTotals& totals);
 
-/// The names and levels of the classes held, joined by "/". Without any level the name of the class chosen stays.
+/// The same of a character that nobody has brought up to date: from what was rolled and the present Constitution.
+int HitPointsOf(const CharacterSheet& sheet);
+
+/// The names and levels of the classes held, joined by "/"; without any level the name of the class chosen alone.
+struct ClassTexts {
+  std::string Names;
+  std::string Levels;
+};
+ClassTexts ClassTextsOf(const CharacterSheet& sheet);
+
+/// Puts them into the record.
 void SetClassTexts(CharacterSheet& sheet);
 
 /// Who holds a class of mages is one, the battle mage aside.

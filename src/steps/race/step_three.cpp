@@ -209,26 +209,37 @@ void RunMenuCommand(Game& game, StepThreeWindow& window, int id) {
 
 }  // namespace
 
-void OpenStepThree(Game& game, std::function<void(Game&)> onContinue) {
+void OpenStepThree(Game& game, std::function<void(Game&)> onContinue, std::function<void(Game&)> onChanged) {
   CloseStepThree(game);
   const auto window = std::make_shared<StepThreeWindow>();
   Form& form = window->form;
   form.contextMenu = StepThreeMenu();
   // The handlers live in the form, and the form in the record: they must not keep it alive themselves.
   StepThreeWindow* const open = window.get();
-  form.onOpened = [&game, open] {
+  const auto tellChange = [&game, onChanged = std::move(onChanged)] {
+    if (onChanged) onChanged(game);
+  };
+  form.onOpened = [&game, open, tellChange] {
     game.run.CurrentStep = 3;
     open->base = TakeBase(game);
     RefreshAbilityDisplay(game, open->form);
+    tellChange();
   };
-  form.onSelect = [&game, open](int id) {
-    if (id == kRaces) ChooseRace(game, *open);
+  form.onSelect = [&game, open, tellChange](int id) {
+    if (id != kRaces) return;
+    ChooseRace(game, *open);
+    tellChange();
   };
-  form.onCommand = [&game, open, onContinue = std::move(onContinue)](int id) {
+  form.onCommand = [&game, open, tellChange, onContinue = std::move(onContinue)](int id) {
     const std::shared_ptr<Form> alive = game.stepThree;  // until this handler has returned
-    if (id == kAbort) return Abort(game, open->form);
-    if (id == kRollAgain) return RunMenuCommand(game, *open, kReroll);
-    if (id != kContinue) return RunMenuCommand(game, *open, id);
+    if (id != kContinue) {
+      if (id == kAbort) {
+        Abort(game, open->form);
+      } else {
+        RunMenuCommand(game, *open, id == kRollAgain ? kReroll : id);
+      }
+      return tellChange();
+    }
     if (game.sheet.RaceName == "Unknown") {
       game.platform.ShowMessage("You must select a race before you may continue");
       return;
