@@ -5,7 +5,6 @@
 #include <clocale>
 #include <filesystem>
 #include <iostream>
-#include <regex>
 #include <set>
 
 #include "dice/dice.h"
@@ -270,11 +269,18 @@ TEST(TerminalDialogsTest, EveryDialogHasAParagraphOfHelpAndOnlyMessagesHaveNone)
       EXPECT_TRUE(words >= 25 && words <= 140) << words << ": " << read.Help;
     }
   }
-  const std::regex without(R"(FormTemplate\s*\w*\{[^;]*(""|\{\})\s*\})");
+  // No template ends in an empty text.
+  const auto isWithout = [](const std::string& source) {
+    for (std::size_t at = 0; (at = source.find("FormTemplate", at)) != std::string::npos; ++at) {
+      const std::string declared = source.substr(at, source.find(';', at) - at);
+      if (declared.ends_with("\"\"}") || declared.ends_with("{}}")) return true;
+    }
+    return false;
+  };
   const std::filesystem::path sources = std::filesystem::path(VELD_SOURCE_DIR) / "src";
   for (const auto& file : std::filesystem::recursive_directory_iterator(sources)) {
     if (file.path().extension() != ".cpp" || file.path().parent_path().filename() == "platform") continue;
-    EXPECT_FALSE(std::regex_search(FileText(file.path().string()), without)) << file.path();
+    EXPECT_FALSE(isWithout(FileText(file.path().string()))) << file.path();
   }
 }
 
