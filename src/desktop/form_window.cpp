@@ -458,8 +458,7 @@ void FormWindow::reject() {
 }
 
 /// Up and Down keep to their column where fields stand in a table. Enter presses the button that has the focus, else
-/// that of the field, else the default one. A key held down does not press on and on, through
-/// one form after another.
+/// that of the field, else the default one. A key held down does not press on and on, through one form after another.
 void FormWindow::keyPressEvent(QKeyEvent* event) {
   const auto focus = static_cast<std::size_t>(std::ranges::find(widgets_, focusWidget()) - widgets_.begin());
   if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) {  // a field leaves them to the page
@@ -468,10 +467,24 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
     const std::size_t next = focus < count ? ControlInNextRow(form_, focus, rows) : count;
     if (next < count) return TakeFocus(next);
   }
+  if (!event->isAutoRepeat() && PressButtonOf(event->text())) return;
   if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter) return QDialog::keyPressEvent(event);
   if (event->isAutoRepeat()) return;
   if (auto* button = qobject_cast<QPushButton*>(focusWidget()); button && button->isEnabled()) return button->click();
   Act([this, focus] { form_.PressEnterAt(focus); });
+}
+
+/// A question is answered by the letter of the answer, without Alt. True if there is an answer of that letter. On the
+/// pages of the steps a letter by itself must not press: one slip there costs a Building Point.
+bool FormWindow::PressButtonOf(const QString& letter) {
+  if (form_.Name() != "Question" || letter.size() != 1 || !letter[0].isLetter()) return false;
+  for (std::size_t i = 0; i < widgets_.size(); ++i) {
+    auto* button = qobject_cast<QPushButton*>(widgets_[i]);
+    if (!button || !marked_[i].contains('&' + letter, Qt::CaseInsensitive)) continue;
+    button->click();
+    return true;
+  }
+  return false;
 }
 
 /// What another window did may be there to be taken back in this one.

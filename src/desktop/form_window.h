@@ -70,6 +70,7 @@ class FormWindow : public QDialog, private FormObserver {
   void Refresh(std::size_t control);
   void Choose(std::size_t control, int row);
   void ChooseNow();
+  bool PressButtonOf(const QString& letter);
   void OpenMenu(QPoint place);
   void OpenMenuByKeyboard();
   bool TypeBack(bool again);

@@ -412,10 +412,12 @@ TEST_F(Desktop, MessagesAndQuestionsAreAnsweredByKeys) {
   std::vector<Answer> answers;
   player.When(
       "escape", [&] { return answers.size() == 2 && Dialog("Reroll")(); }, [] { Press(Qt::Key_Escape); });
+  player.When(
+      "letter alone", [&] { return answers.size() == 3 && Dialog("Reroll")(); }, [] { Press(Qt::Key_N); });
   player.Start();
   platform.ShowMessage("1 < 2 & <b>plain</b>");
-  for (int i = 0; i < 3; ++i) answers.push_back(platform.AskYesNo("Reroll", "Keep?"));
-  EXPECT_EQ(answers, (std::vector<Answer>{Answer::Yes, Answer::No, Answer::Closed}));
+  for (int i = 0; i < 4; ++i) answers.push_back(platform.AskYesNo("Reroll", "Keep?"));
+  EXPECT_EQ(answers, (std::vector<Answer>{Answer::Yes, Answer::No, Answer::Closed, Answer::No}));
 }
 
 TEST_F(Desktop, FormsNestOnOneCallStackAndExceptionsComeUpIt) {
