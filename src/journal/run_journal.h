@@ -64,7 +64,4 @@ bool ReadJournal(std::string_view text, RunJournal& journal);
 /// The whole of a journal as text, without what was taken back.
 std::string JournalText(const RunJournal& journal);
 
-/// No journal is longer, in bytes.
-inline constexpr std::size_t kLargestJournal = 16'000'000;
-
 }  // namespace veld

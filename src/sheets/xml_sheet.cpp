@@ -260,35 +260,26 @@ void AddRaceNotes(XmlWriter& xml, const Sheet& sheet) {
   }
 }
 
-struct TattooRow {
+/// The tattoos in the order of this sheet, with their short names; all else stands in their own table.
+struct TattooName {
   std::string_view Name;
   std::string_view Abbreviation;
-  std::string_view Effect;
-  int Sheet::*Place;
 };
-constexpr TattooRow kTattooRows[] = {
-    {"Ardkrin", "Ardk", "+1AC against all melee attacks", &Sheet::TattooArdkrin},
-    {"Shewkrin", "Shew", "+1AC against all missile attacks", &Sheet::TattooShewkrin},
-    {"Yiskrin", "Yisk", "+1 to Charisma", &Sheet::TattooYiskrin},
-    {"Tarkrin", "Tark", "Diminish Evil", &Sheet::TattooTarkrin},
-    {"Fakrin", "Fakr", "Detect Evil", &Sheet::TattooFakrin},
-    {"Emphkrin", "Emph", "Detect Living Creature", &Sheet::TattooEmphkrin},
-    {"Shunkrin", "Shun", "+1 to all saves", &Sheet::TattooShunkrin},
-    {"Hurdkrin", "Hurd", "+1 to Hit Points per level", &Sheet::TattooHurdkrin},
-    {"Grekrin", "Grek", "+2 to Strength (2 slots)", &Sheet::TattooGrekrin},
-    {"Gorkrink", "Gork", "+1 to damage", &Sheet::TattooGorkrink},
-};
+constexpr TattooName kTattooNames[] = {
+    {"Ardkrin", "Ardk"},  {"Shewkrin", "Shew"}, {"Yiskrin", "Yisk"},  {"Tarkrin", "Tark"}, {"Fakrin", "Fakr"},
+    {"Emphkrin", "Emph"}, {"Shunkrin", "Shun"}, {"Hurdkrin", "Hurd"}, {"Grekrin", "Grek"}, {"Gorkrink", "Gork"}};
 
 void AddTattoos(XmlWriter& xml, const Sheet& sheet) {
   if (!HasTrait(sheet.RaceName, RaceTrait::Tattooed)) return;
   const auto tattoos = xml.Open("PIXIE_FAIRY_TATTOOS");
-  for (const TattooRow& row : kTattooRows) {
-    const std::string_view place = TattooPlaceName(sheet.*row.Place);
+  for (const TattooName& name : kTattooNames) {
+    const TattooRecord& record = *FindTattoo(name.Name);
+    const std::string_view place = TattooPlaceName(sheet.*record.Location);
     if (place.empty()) continue;
     const auto tattoo = xml.Open("TATTOO");
-    AddXmlName(xml, row.Name, row.Abbreviation);
+    AddXmlName(xml, name.Name, name.Abbreviation);
     xml.Leaf("LOCATION", place);
-    xml.Leaf("EFFECT", row.Effect);
+    xml.Leaf("EFFECT", record.Effect);
   }
 }
 

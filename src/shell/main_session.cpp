@@ -9,6 +9,7 @@
 #include "shell/recover_dialog.h"
 #include "store/character_file.h"
 #include "store/recovery.h"
+#include "store/run_note.h"
 #include "store/safe_file.h"
 #include "text/file_name.h"
 

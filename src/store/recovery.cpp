@@ -176,9 +176,8 @@ bool ReadParty(const std::string& path, Party& party) {
 
 /// How far a run is that did not come to its end; empty for any other.
 std::string UnfinishedRunOf(const std::string& path) {
-  constexpr std::size_t kLargest = 16'000'000;
   std::string text;
-  if (ReadWholeFile(path, text, kLargest) != FileRead::Done) return {};
+  if (ReadWholeFile(path, text, kLargestJournal) != FileRead::Done) return {};
   const RunNote note = NoteOfRun(text);
   return note.IsEnded ? std::string() : DisplayText(note.Text);
 }

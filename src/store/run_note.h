@@ -13,6 +13,9 @@ namespace veld {
 /// The first line of every journal.
 inline constexpr std::string_view kRunHead = "VELD run 1\n";
 
+/// No journal is longer, in bytes.
+inline constexpr std::size_t kLargestJournal = 16'000'000;
+
 inline constexpr std::string_view kRunNote = "note ";  ///< how far the run is: the last one holds
 inline constexpr std::string_view kRunEnd = "end";     ///< the run came to its end
 
