@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "desktop/style.h"
+#include "platform/hand_over.h"
 #include "platform/main_window.h"
 #include "platform/platform.h"
 #include "platform/windows_beside.h"
@@ -43,6 +44,8 @@ class DesktopPlatform : public Platform {
   bool ShowProgress(int percent) override;
   void EndProgress() override;
   bool CopyText(std::string_view text) override;
+  bool OpenFile(const std::string& path) override { return ShowInViewer(path); }
+  bool PrintFile(const std::string& path) override { return SendToPrinter(path); }
 
  protected:
   std::optional<std::string> DoAskOpenPath(const std::string& caption, std::span<const FileFilter> filters) override;

@@ -57,6 +57,8 @@ class JournalPlatform : public Platform, private FormActs {
   bool ShowProgress(int percent) override;
   void EndProgress() override;
   bool CopyText(std::string_view text) override { return isReplaying_ || front_.CopyText(text); }
+  bool OpenFile(const std::string& path) override { return isReplaying_ || front_.OpenFile(path); }
+  bool PrintFile(const std::string& path) override { return isReplaying_ || front_.PrintFile(path); }
   std::int64_t Now() const override;
 
  protected:

@@ -70,6 +70,10 @@ class Platform {
 
   /// Gives a text to the clipboard. Returns false where there is none.
   virtual bool CopyText(std::string_view /*text*/) { return false; }
+  /// Hands a file to the program that the system shows such files with, or to its printer. Returns false where there is
+  /// none, or none takes it.
+  virtual bool OpenFile(const std::string& /*path*/) { return false; }
+  virtual bool PrintFile(const std::string& /*path*/) { return false; }
 
   /// The clock, in seconds since 1970.
   virtual std::int64_t Now() const;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cairo-pdf.h>
+#include <hb.h>
 #include <pango/pangocairo.h>
 
 namespace veld {
@@ -31,6 +32,7 @@ namespace veld {
   CALL(cairo_surface_finish)                \
   CALL(cairo_surface_status)                \
   CALL(g_object_unref)                      \
+  CALL(hb_font_get_glyph_h_advance)         \
   CALL(pango_attr_font_features_new)        \
   CALL(pango_attr_foreground_new)           \
   CALL(pango_attr_insert_hyphens_new)       \
@@ -50,11 +52,14 @@ namespace veld {
   CALL(pango_font_description_set_absolute_size) \
   CALL(pango_font_description_set_family)   \
   CALL(pango_font_description_set_weight)   \
+  CALL(pango_font_get_hb_font)              \
   CALL(pango_font_map_create_context)       \
   CALL(pango_layout_get_baseline)           \
+  CALL(pango_layout_get_line)               \
   CALL(pango_layout_get_line_count)         \
   CALL(pango_layout_get_line_readonly)      \
   CALL(pango_layout_get_size)               \
+  CALL(pango_layout_get_unknown_glyphs_count) \
   CALL(pango_layout_line_get_extents)       \
   CALL(pango_layout_new)                    \
   CALL(pango_layout_set_alignment)          \

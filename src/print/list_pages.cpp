@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <cmath>
 
-#include "print/sheet_view.h"
 #include "rules/equipment_catalogue.h"
 #include "rules/proficiency_table.h"
 #include "rules/quirk_table.h"
 #include "sheets/sheet_facts.h"
+#include "sheets/sheet_view.h"
 #include "text/format.h"
 #include "text/search.h"
 

@@ -58,6 +58,24 @@ PangoAttrList* NewAttributes(const DrawingLibrary& library) {
   return list;
 }
 
+/// Gives letters that no font has the box that the font around them has for such: it is a letter, and what it stands
+/// for can be searched. Else boxes with digits would be drawn, and the digits be read for the letter.
+void KeepUnknownLetters(const DrawingLibrary& library, PangoLayout* layout) {
+  if (library.pango_layout_get_unknown_glyphs_count(layout) == 0) return;
+  for (int i = 0; i < library.pango_layout_get_line_count(layout); ++i) {
+    for (const GSList* at = library.pango_layout_get_line(layout, i)->runs; at; at = at->next) {
+      const auto* run = static_cast<const PangoLayoutRun*>(at->data);
+      const auto letters = static_cast<std::size_t>(run->glyphs->num_glyphs);
+      for (PangoGlyphInfo& letter : std::span(run->glyphs->glyphs, letters)) {
+        if ((letter.glyph & PANGO_GLYPH_UNKNOWN_FLAG) == 0) continue;
+        letter.glyph = 0;
+        letter.geometry.width =
+            library.hb_font_get_glyph_h_advance(library.pango_font_get_hb_font(run->item->analysis.font), 0);
+      }
+    }
+  }
+}
+
 }  // namespace
 
 struct PdfCanvas::Tools {
@@ -164,6 +182,7 @@ LaidText PdfCanvas::Lay(std::span<const TextRun> runs, const TextStyle& style, d
     library.pango_layout_set_width(layout, Units(width));
     library.pango_layout_set_alignment(layout, kSides[static_cast<std::size_t>(style.Side)]);
   }
+  KeepUnknownLetters(library, layout);
   int wide = 0;
   int high = 0;
   library.pango_layout_get_size(layout, &wide, &high);

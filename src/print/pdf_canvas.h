@@ -52,7 +52,8 @@ class LaidText {
 };
 
 /// A PDF document in the making, in memory. All measures are points from the page's upper left corner. The texts can be
-/// selected and searched, their fonts are embedded; a text is UTF-8.
+/// selected and searched, also letters that no font has, which print as empty boxes; fonts are embedded. A text is
+/// UTF-8.
 class PdfCanvas {
  public:
   /// Null if this computer can't make one.

@@ -183,6 +183,16 @@ PageFlow::PageFlow(PdfCanvas& canvas, std::string runningHead) : canvas_(canvas)
   DrawHead(Head());
 }
 
+void PageFlow::Finish() {
+  for (const PlacedDrawing& placed : drawings_) {
+    if (placed.Draw) {
+      placed.Draw(placed.X, placed.Y);
+    } else {
+      canvas_.NextPage();
+    }
+  }
+}
+
 double PageFlow::Left() const {
   return kLeftMargin;
 }
@@ -204,11 +214,14 @@ HeadPlace PageFlow::Head() const {
 }
 
 void PageFlow::DrawHead(const HeadPlace& place) {
-  constexpr TextStyle kStyle{kSmallSize + 0.7};
-  const LaidText number = canvas_.Lay(Format("Page %i", page_), kStyle);
-  canvas_.Draw(number, place.Right - number.Width(), place.Top);
+  static constexpr TextStyle kStyle{kSmallSize + 0.7};
   const LaidText head = canvas_.LayFitting(head_, kStyle, 4, place.Width);
-  canvas_.Draw(head, place.Left, place.Top);
+  const Drawing draw([this, head, right = place.Right, page = page_](double x, double y) {
+    const LaidText number = canvas_.Lay(Format("Page %i of %i", page, page_), kStyle);
+    canvas_.Draw(number, right - number.Width(), y);
+    canvas_.Draw(head, x, y);
+  });
+  drawings_.push_back({draw, place.Left, place.Top});
   y_ = place.Top + std::max(kHeadHeight, head.Height() + 4);
   isFresh_ = true;
 }
@@ -218,14 +231,14 @@ void PageFlow::NextPage() {
 }
 
 void PageFlow::NextPage(const HeadPlace& place) {
-  canvas_.NextPage();
+  drawings_.push_back({});
   ++page_;
   DrawHead(place);
 }
 
 void PageFlow::Place(const Piece& piece, double gap) {
   if (!isFresh_ && piece.Height > Room()) NextPage();
-  piece.Draw(kLeftMargin, y_);
+  DrawAt(piece, kLeftMargin, y_);
   y_ += piece.Height + gap;
   isFresh_ = false;
 }
@@ -274,10 +287,10 @@ void PageFlow::PlaceInColumns(std::span<const Piece> pieces, int columns, const 
       const std::size_t end = fill(next, limit, height);
       const double x = kLeftMargin + column * (width + kGutter);
       double y = y_;
-      if (head.Draw) head.Draw(x, y);
+      if (head.Draw) DrawAt(head, x, y);
       y += head.Height;
       for (; next < end; ++next) {
-        pieces[next].Draw(x, y);
+        DrawAt(pieces[next], x, y);
         y += pieces[next].Height;
       }
       highest = std::max(highest, height);

@@ -1,7 +1,8 @@
 #pragma once
 
+#include <concepts>
 #include <functional>
-#include <initializer_list>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -15,10 +16,23 @@ namespace veld {
 // What the pages are put together of: pieces that know their height before they are drawn, so that whatever is placed
 // is placed whole. Measures are points.
 
+/// How something is drawn, given its upper left corner. Copies share it.
+class Drawing {
+ public:
+  Drawing() = default;
+  template <std::invocable<double, double> Act>
+  Drawing(Act act) : act_(std::make_shared<const std::function<void(double, double)>>(std::move(act))) {}
+  void operator()(double x, double y) const { (*act_)(x, y); }
+  explicit operator bool() const { return act_ != nullptr; }
+
+ private:
+  std::shared_ptr<const std::function<void(double, double)>> act_;
+};
+
 struct Piece {
   double Height = 0;
-  std::function<void(double x, double y)> Draw;  ///< its upper left corner
-  bool KeepsNext = false;                        ///< is not to be the last in a column or on a page
+  Drawing Draw = {};
+  bool KeepsNext = false;  ///< is not to be the last in a column or on a page
 };
 
 inline constexpr double kGutter = 10;       ///< between what stands side by side
@@ -72,6 +86,8 @@ class TableShape {
   /// A row; cells that are missing stay empty for the pencil. Texts wrap in their cells.
   Piece Row(const std::vector<std::string>& cells) const;
   double Width() const { return width_; }
+  /// Where a column begins, and its width.
+  std::pair<double, double> Column(std::size_t column) const { return {places_[column].X, places_[column].Width}; }
 
  private:
   struct Place {
@@ -96,10 +112,16 @@ struct HeadPlace {
   double Right;
 };
 
-/// Where the next piece goes. Begins pages, each with a running head and its number.
+/// Where the next piece goes. Begins pages, each with a running head and its number. All is laid out first and drawn at
+/// the end, when it is known how many pages there are.
 class PageFlow {
  public:
   PageFlow(PdfCanvas& canvas, std::string runningHead);
+  PageFlow(const PageFlow&) = delete;
+  PageFlow& operator=(const PageFlow&) = delete;
+
+  /// Draws all pages.
+  void Finish();
 
   PdfCanvas& Canvas() { return canvas_; }
   double Left() const;
@@ -110,6 +132,8 @@ class PageFlow {
   void NextPage();
   /// The same with a running head of another place, for what takes the whole sheet.
   void NextPage(const HeadPlace& place);
+  /// Draws a piece somewhere on the page.
+  void DrawAt(const Piece& piece, double x, double y) { drawings_.push_back({piece.Draw, x, y}); }
   /// Places a piece, on the next page if it does not fit on this one.
   void Place(const Piece& piece, double gap = 0);
   /// Places pieces in columns of one width, page after page, as evenly as they go; `head` stands over each column,
@@ -119,13 +143,20 @@ class PageFlow {
   double ColumnWidth(int columns) const { return (Width() - (columns - 1) * kGutter) / columns; }
 
  private:
+  struct PlacedDrawing {
+    Drawing Draw;  ///< none: the next page
+    double X;
+    double Y;
+  };
+
   HeadPlace Head() const;
   void DrawHead(const HeadPlace& place);
   double Bottom() const;
 
   PdfCanvas& canvas_;
   std::string head_;
-  int page_ = 1;
+  std::vector<PlacedDrawing> drawings_;
+  int page_ = 1;  ///< in the end how many there are
   double y_ = 0;
   bool isFresh_ = true;  ///< nothing stands on the page yet
 };

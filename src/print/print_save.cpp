@@ -1,10 +1,5 @@
 #include "print/print_save.h"
 
-#include <langinfo.h>
-#include <locale.h>
-
-#include <cstdint>
-
 #include "platform/platform.h"
 #include "print/list_pages.h"
 #include "print/pdf_canvas.h"
@@ -17,23 +12,12 @@
 
 namespace veld {
 
-PaperSize LocalPaper() {
-  constexpr int kLetterMillimetres = 279;
-  const locale_t locale = newlocale(LC_PAPER_MASK, "", nullptr);
-  if (!locale) return PaperSize::A4;
-  // The C library gives this number in the place of a text, in its lower half.
-  const auto height = static_cast<int>(reinterpret_cast<std::intptr_t>(nl_langinfo_l(_NL_PAPER_HEIGHT, locale)));
-  freelocale(locale);
-  return height == kLetterMillimetres ? PaperSize::Letter : PaperSize::A4;
-}
-
 std::string PdfSheet(Game& game, const PrintOptions& options) {
   BringUpToDate(game);
   const SheetContent content = GatherSheet(game);
-  const bool isLetter = options.Paper == PaperSize::Letter;
+  const PaperMeasure paper = MeasureOf(options.Paper);
   const std::string head = Format("%s \u2013 %s", content.Name, content.Subtitle);
-  const auto canvas =
-      PdfCanvas::Make(isLetter ? 612 : 595.276, isLetter ? 792 : 841.89, head, OneLine(game.sheet.PlayerName));
+  const auto canvas = PdfCanvas::Make(paper.Width, paper.Height, head, OneLine(game.sheet.PlayerName));
   if (!canvas) return {};
   PageFlow flow(*canvas, head);
   PlaceTablePage(flow, game, content);
@@ -43,6 +27,7 @@ std::string PdfSheet(Game& game, const PrintOptions& options) {
   if (IsShownAsMage(game.sheet)) PlaceSpells(flow, game);
   PlaceLog(flow);
   if (options.SpellCards) DrawSpellCards(flow, game);
+  flow.Finish();
   return canvas->Finish();
 }
 

@@ -2,15 +2,11 @@
 
 #include <string>
 
+#include "print/paper.h"
 #include "store/game.h"
 #include "store/safe_file.h"
 
 namespace veld {
-
-enum class PaperSize { A4, Letter };
-
-/// The paper of the user's own country.
-PaperSize LocalPaper();
 
 struct PrintOptions {
   PaperSize Paper = LocalPaper();

@@ -13,28 +13,6 @@ namespace {
 
 constexpr double kMemoryBoxes[] = {0, 6.2, 12.4, 18.6, 24.8};  ///< of a spell: how often it is in memory
 
-/// Where a spell stands in the character's books: "12", or "2: 12" from the second book on. Empty if in none.
-std::string PageInBooks(const CharacterSheet& sheet, std::string_view spell) {
-  for (std::size_t book = 0; book < kSpellBooks; ++book) {
-    const SpellBook& held = sheet.SpellBooks[book];
-    for (std::size_t i = 0; i < held.Pages.size() && !held.Name.Empty(); ++i) {
-      if (held.Pages[i].Empty() || TrimRight(held.Pages[i]) != spell) continue;
-      return book == 0 ? Format("%i", held.PageFlags[i]) : Format("%i: %i", book + 1, held.PageFlags[i]);
-    }
-  }
-  return {};
-}
-
-/// The rows of the spells known, level by level.
-std::vector<std::size_t> KnownSpells(const Game& game) {
-  std::vector<std::size_t> rows;
-  for (std::size_t row = 0; row < kSpellRows; ++row) {
-    if (game.sheet.SpellsKnown[row] > 0) rows.push_back(row);
-  }
-  std::ranges::stable_sort(rows, {}, [&](std::size_t row) { return game.SpellTable[row].Level; });
-  return rows;
-}
-
 /// A level's title with a box for each spell that may be in memory.
 Piece LevelHead(PdfCanvas& canvas, int level, int slots, double width) {
   constexpr double kBoxesAt = 120;
@@ -116,27 +94,13 @@ void PlaceBook(PageFlow& flow, const Game& game, const SpellBook& book) {
   const TableShape table(canvas, {{"page", 0.8}, {"spell", 5, Align::Left, true}, {"level", 0.8}, {"pages", 0.8}},
                          flow.ColumnWidth(kColumns));
   std::vector<Piece> rows;
-  for (std::size_t i = 0; i < book.Pages.size(); ++i) {
-    if (book.Pages[i].Empty()) continue;
-    const std::string name = OneLine(TrimRight(book.Pages[i]));
-    const int row = FindSpell(game.SpellTable, book.Pages[i]);
-    const auto at = static_cast<std::size_t>(std::max(row, 0));
-    rows.push_back(
-        table.Row({Format("%i", book.PageFlags[i]), name, row < 0 ? "" : Format("%i", game.SpellTable[at].Level),
-                   row < 0 ? "" : Format("%i", book.SpellRows[at])}));
+  for (const BookEntry& entry : BookEntries(game, book)) {
+    rows.push_back(table.Row({Format("%i", entry.Page), entry.Name, entry.Spell ? Format("%i", entry.Spell->Level) : "",
+                              entry.Spell ? Format("%i", entry.Pages) : ""}));
   }
   for (int i = 0; i < 4; ++i) rows.push_back(table.Row({}));
-  std::string make;
-  const auto add = [&](std::string_view part) {
-    if (!TrimRight(part).empty()) make += (make.empty() ? "" : ", ") + OneLine(part);
-  };
-  for (const std::string_view part : {book.FormatName.View(), book.SizeText.View(), book.ThicknessText.View(),
-                                      book.WeightText.View(), book.EncumbranceText.View(), book.FreeText.View()}) {
-    add(part);
-  }
-  if (book.PageCount > 0) add(Format("%i pages, written from %i to %i", book.PageCount, book.FirstPage, book.LastPage));
   const Piece heading = Heading(canvas, Format("Spell book: %s", OneLine(book.Name)), flow.Width());
-  const Piece remark = Remark(canvas, make, flow.Width());
+  const Piece remark = Remark(canvas, BookMake(book), flow.Width());
   flow.PlaceInColumns(rows, kColumns, table.Head(), Stack({heading, remark}));
   flow.Place(Space(8));
 }
@@ -150,19 +114,21 @@ constexpr int kCardsAcross = 3;
 constexpr int kCardsOnPage = 9;
 
 /// Short lines at the edges of the sheet, where the knife begins and ends.
-void DrawCutMarks(PdfCanvas& canvas, double left, double top) {
-  constexpr double kMark = 10;
-  constexpr double kAway = 3;
-  const double right = left + kCardsAcross * kCardWidth;
-  const double bottom = top + kCardsAcross * kCardHeight;
-  for (int i = 0; i <= kCardsAcross; ++i) {
-    const double x = left + i * kCardWidth;
-    const double y = top + i * kCardHeight;
-    canvas.Line(x, top - kAway - kMark, x, top - kAway, Ink::Text, 0.4);
-    canvas.Line(x, bottom + kAway, x, bottom + kAway + kMark, Ink::Text, 0.4);
-    canvas.Line(left - kAway - kMark, y, left - kAway, y, Ink::Text, 0.4);
-    canvas.Line(right + kAway, y, right + kAway + kMark, y, Ink::Text, 0.4);
-  }
+Piece CutMarks(PdfCanvas& canvas) {
+  return {kCardsAcross * kCardHeight, [&canvas](double left, double top) {
+            constexpr double kMark = 10;
+            constexpr double kAway = 3;
+            const double right = left + kCardsAcross * kCardWidth;
+            const double bottom = top + kCardsAcross * kCardHeight;
+            for (int i = 0; i <= kCardsAcross; ++i) {
+              const double x = left + i * kCardWidth;
+              const double y = top + i * kCardHeight;
+              canvas.Line(x, top - kAway - kMark, x, top - kAway, Ink::Text, 0.4);
+              canvas.Line(x, bottom + kAway, x, bottom + kAway + kMark, Ink::Text, 0.4);
+              canvas.Line(left - kAway - kMark, y, left - kAway, y, Ink::Text, 0.4);
+              canvas.Line(right + kAway, y, right + kAway + kMark, y, Ink::Text, 0.4);
+            }
+          }};
 }
 
 constexpr double kCardMargin = 10;
@@ -192,7 +158,7 @@ double HeightOf(const std::vector<Piece>& pieces) {
   return height;
 }
 
-void DrawCard(PdfCanvas& canvas, const SpellRecord& spell, const std::string& page, double x, double y) {
+Piece Card(PdfCanvas& canvas, const SpellRecord& spell, const std::string& page) {
   constexpr double kRoom = kCardHeight - 2 * kCardMargin;
   std::vector<Piece> pieces;
   for (const double size : {kTextSize, 6.0, 4.5}) {  // a catalogue with long words needs a small print
@@ -202,7 +168,7 @@ void DrawCard(PdfCanvas& canvas, const SpellRecord& spell, const std::string& pa
   for (double height = HeightOf(pieces); height + kRowHeight <= kRoom; height += kRowHeight) {
     pieces.push_back(RuledLine(canvas, kCardWidth - 2 * kCardMargin, kRowHeight));
   }
-  Stack(std::move(pieces)).Draw(x + kCardMargin, y + kCardMargin);
+  return Stack(std::move(pieces));
 }
 
 }  // namespace
@@ -228,11 +194,12 @@ void DrawSpellCards(PageFlow& flow, const Game& game) {
       constexpr double kAway = 5;
       const double right = left + kCardsAcross * kCardWidth;
       flow.NextPage({top - kHeadHeight, left + kAway, kCardWidth - 2 * kAway, right - kAway});
-      DrawCutMarks(canvas, left, top);
+      flow.DrawAt(CutMarks(canvas), left, top);
     }
     const SpellRecord& spell = game.SpellTable[row];
-    DrawCard(canvas, spell, PageInBooks(game.sheet, TrimRight(spell.Name)), left + place % kCardsAcross * kCardWidth,
-             top + place / kCardsAcross * kCardHeight);
+    flow.DrawAt(Card(canvas, spell, PageInBooks(game.sheet, TrimRight(spell.Name))),
+                left + place % kCardsAcross * kCardWidth + kCardMargin,
+                top + place / kCardsAcross * kCardHeight + kCardMargin);
   }
 }
 

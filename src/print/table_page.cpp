@@ -2,11 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
 
-#include "print/sheet_view.h"
 #include "rules/ability.h"
 #include "sheets/sheet_facts.h"
+#include "sheets/sheet_view.h"
 #include "text/format.h"
 #include "text/search.h"
 
@@ -142,16 +141,11 @@ Piece Saves(PdfCanvas& canvas, const SheetContent& content, double width, double
 
 // ---- Hit points and armor ----
 
-constexpr int kMostBoxes = 120;
-
 Piece HitPoints(PdfCanvas& canvas, const SheetContent& content, const CharacterSheet& sheet, double width) {
   constexpr double kBoxWidth = 46;
   constexpr double kTicksAt = kBoxWidth + 8;
-  const std::int64_t points = sheet.HitPoints;
-  const std::int64_t perBox = points > kMostBoxes ? (points + kMostBoxes - 1) / kMostBoxes : 1;
-  const int boxes = points > 0 ? static_cast<int>((points + perBox - 1) / perBox) : 20;
-  const std::string told =
-      perBox == 1 ? "tick what is lost" : Format("tick what is lost; a box is %i hit points", perBox);
+  const auto [boxes, each] = HitPointBoxes(sheet.HitPoints);
+  const std::string told = each == 1 ? "tick what is lost" : Format("tick what is lost; a box is %i hit points", each);
   const double ticksWidth = width - kTicksAt;
   const Piece ticks =
       Stack({TickBoxes(canvas, boxes, ticksWidth, boxes > 60 ? 6.5 : 7.5), Remark(canvas, told, ticksWidth)});
@@ -202,17 +196,6 @@ std::vector<Piece> WeaponRows(const TableShape& table, const SheetContent& conte
 }
 
 // ---- Movement, Honor, experience ----
-
-/// The column of the load that is carried now: 1 is unencumbered, 5 severe.
-int PresentLoad(const CharacterSheet& sheet) {
-  const auto limits = EncumbranceLimits(sheet);
-  int load = 1;
-  for (int i = 1; i < 5; ++i) {
-    const int limit = limits[static_cast<std::size_t>(i)];
-    if (limit > 0 && static_cast<double>(sheet.CarriedWeightLbs) >= limit) load = i + 1;
-  }
-  return load;
-}
 
 Piece Movement(PdfCanvas& canvas, const SheetContent& content, const CharacterSheet& sheet, double width) {
   const SheetBlock* block = FindBlock(content, "Movement and Encumbrance");

@@ -11,7 +11,6 @@
 #include "rules/equipment_catalogue.h"
 #include "rules/honor_tables.h"
 #include "rules/quirk_table.h"
-#include "rules/saving_throws.h"
 #include "sheets/sheet_facts.h"
 #include "steps/classes/class_totals.h"
 #include "store/sheet_accessors.h"
@@ -149,18 +148,6 @@ void AddAbilities(Page& page, const CharacterSheet& s) {
 
 // ---- Who it is, and what he has ----
 
-/// The level that Honor is held against: the average of the classes.
-int AverageLevel(const CharacterSheet& sheet) {
-  std::int64_t classes = 0;
-  std::int64_t levels = 0;
-  for (std::size_t row = 0; row < kBestSave; ++row) {
-    if (sheet.ClassLevels[row] <= 0) continue;
-    ++classes;
-    levels += sheet.ClassLevels[row];
-  }
-  return classes > 0 ? static_cast<int>(levels / classes) : 1;
-}
-
 std::string RaceText(const CharacterSheet& sheet) {
   return sheet.RaceName == kNoRace ? std::string() : Format("%s, %s", Trimmed(sheet.RaceName), Trimmed(sheet.Gender));
 }
@@ -209,23 +196,11 @@ void AddWhoItIs(Page& page, const Game& game) {
   if (!game.isFinished) AddFact(page, "Building Points", Number(TruncateToInt(game.run.BuildingPoints)));
 }
 
-/// The best saving throw of the classes held.
 std::string SavesText(const CharacterSheet& sheet) {
-  constexpr std::array<std::string_view, kSaveCount> kNames{
-      "Paralyzation", "Poison",      "Death Magic", "Petrification", "Polymorph", "Rod",   "Staff",
-      "Wand",         "QuellFrenzy", "QuellLust",   "Breath Weapon", "Apology",   "Spells"};
-  std::array<int, kSaveCount> best;
-  best.fill(kNoSave);
-  for (std::size_t row = 0; row < kBestSave; ++row) {
-    std::array<int, kSaveCount> saves{};
-    if (sheet.ClassLevels[row] <= 0) continue;
-    if (!ReadClassSaves(static_cast<int>(row), sheet.ClassLevels[row], saves)) continue;
-    for (std::size_t save = 0; save < best.size(); ++save) best[save] = std::min(best[save], saves[save]);
-  }
+  const auto best = BestSaves(sheet);
   std::string text;
-  best[kSaveStaff] = best[kSaveRod];  // one number serves rods and staves
   for (std::size_t save = 0; save < best.size(); ++save) {
-    if (best[save] < kNoSave) AddToList(text, Format("%s %i", kNames[save], best[save]));
+    if (best[save] < kNoSave) AddToList(text, Format("%s %i", kSaveNames[save], best[save]));
   }
   return text;
 }

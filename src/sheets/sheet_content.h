@@ -12,8 +12,8 @@ class Form;
 
 // What all printed sheets show, gathered once from the character and the catalogues as one ordered list of facts. A
 // fact says in its own line where and how each format prints it, and the writers only walk the list: a new fact is a
-// new line here and nothing elsewhere. The list has the order of the text and the HTML sheet; on the tab-separated
-// sheet a fact belongs to a row. The names of catalogues come without the blanks at their ends; texts that players
+// new line here and nothing elsewhere. The list has the order of the text sheet; on the tab-separated sheet a fact belongs
+// to a row, and the HTML sheet and the one on paper place block by block. The names of catalogues come without the blanks at their ends; texts that players
 // typed are one line each, tabs and line ends read as blanks.
 
 /// How a format prints a fact: a pattern for the value, or for the label and the value. Empty: not at all.

@@ -5,6 +5,7 @@
 
 #include "rules/proficiency_table.h"
 #include "rules/skill_table.h"
+#include "rules/spell_catalogue.h"
 #include "rules/talent_table.h"
 #include "steps/skills/proficiency_purchase.h"
 #include "store/sheet_accessors.h"
@@ -117,6 +118,93 @@ std::array<int, 6> EncumbranceLimits(const CharacterSheet& s) {
                             s.MaxPressExtra};
   for (std::size_t i = 1; i < limits.size(); ++i) limits[i] = AddSaturated(limits[i - 1], limits[i]);
   return limits;
+}
+
+int PresentLoad(const CharacterSheet& sheet) {
+  const auto limits = EncumbranceLimits(sheet);
+  int load = 1;
+  for (int i = 1; i < 5; ++i) {
+    const int limit = limits[static_cast<std::size_t>(i)];
+    if (limit > 0 && static_cast<double>(sheet.CarriedWeightLbs) >= limit) load = i + 1;
+  }
+  return load;
+}
+
+TickBoxCount HitPointBoxes(int hitPoints) {
+  constexpr std::int64_t kMostBoxes = 120;
+  constexpr int kBoxesOfNobody = 20;
+  const std::int64_t points = hitPoints;
+  const std::int64_t each = points > kMostBoxes ? (points + kMostBoxes - 1) / kMostBoxes : 1;
+  return {points > 0 ? static_cast<int>((points + each - 1) / each) : kBoxesOfNobody, each};
+}
+
+std::array<int, kSaveCount> BestSaves(const CharacterSheet& sheet) {
+  std::array<int, kSaveCount> best;
+  best.fill(kNoSave);
+  for (std::size_t row = 0; row < kBestSave; ++row) {
+    std::array<int, kSaveCount> saves{};
+    if (sheet.ClassLevels[row] <= 0) continue;
+    if (!ReadClassSaves(static_cast<int>(row), sheet.ClassLevels[row], saves)) continue;
+    for (std::size_t save = 0; save < best.size(); ++save) best[save] = std::min(best[save], saves[save]);
+  }
+  best[kSaveStaff] = best[kSaveRod];  // one number serves rods and staves
+  return best;
+}
+
+int AverageLevel(const CharacterSheet& sheet) {
+  std::int64_t classes = 0;
+  std::int64_t levels = 0;
+  for (std::size_t row = 0; row < kBestSave; ++row) {
+    if (sheet.ClassLevels[row] <= 0) continue;
+    ++classes;
+    levels += sheet.ClassLevels[row];
+  }
+  return classes > 0 ? static_cast<int>(levels / classes) : 1;
+}
+
+std::vector<std::size_t> KnownSpells(const Game& game) {
+  std::vector<std::size_t> rows;
+  for (std::size_t row = 0; row < kSpellRows; ++row) {
+    if (game.sheet.SpellsKnown[row] > 0) rows.push_back(row);
+  }
+  std::ranges::stable_sort(rows, {}, [&](std::size_t row) { return game.SpellTable[row].Level; });
+  return rows;
+}
+
+std::string PageInBooks(const CharacterSheet& sheet, std::string_view spell) {
+  for (std::size_t book = 0; book < kSpellBooks; ++book) {
+    const SpellBook& held = sheet.SpellBooks[book];
+    for (std::size_t i = 0; i < held.Pages.size() && !held.Name.Empty(); ++i) {
+      if (held.Pages[i].Empty() || TrimRight(held.Pages[i]) != spell) continue;
+      return book == 0 ? Format("%i", held.PageFlags[i]) : Format("%i: %i", book + 1, held.PageFlags[i]);
+    }
+  }
+  return {};
+}
+
+std::string BookMake(const SpellBook& book) {
+  std::string make;
+  const auto add = [&](std::string_view part) {
+    if (!TrimRight(part).empty()) make += (make.empty() ? "" : ", ") + OneLine(TrimRight(part));
+  };
+  for (const std::string_view part : {book.FormatName.View(), book.SizeText.View(), book.ThicknessText.View(),
+                                      book.WeightText.View(), book.EncumbranceText.View(), book.FreeText.View()}) {
+    add(part);
+  }
+  if (book.PageCount > 0) add(Format("%i pages, written from %i to %i", book.PageCount, book.FirstPage, book.LastPage));
+  return make;
+}
+
+std::vector<BookEntry> BookEntries(const Game& game, const SpellBook& book) {
+  std::vector<BookEntry> entries;
+  for (std::size_t i = 0; i < book.Pages.size(); ++i) {
+    if (book.Pages[i].Empty()) continue;
+    const int row = FindSpell(game.SpellTable, book.Pages[i]);
+    const auto at = static_cast<std::size_t>(std::max(row, 0));
+    entries.push_back({book.PageFlags[i], OneLine(TrimRight(book.Pages[i])), row < 0 ? nullptr : &game.SpellTable[at],
+                       book.SpellRows[at]});
+  }
+  return entries;
 }
 
 bool IsShownAsMage(const CharacterSheet& sheet) {

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "rules/proficiency_table.h"
-#include "store/character_sheet.h"
+#include "rules/saving_throws.h"
+#include "store/game.h"
 
 namespace veld {
 
@@ -38,6 +40,43 @@ std::string_view MarkName(int mark);
 
 /// Pounds from which a burden is none, light, moderate, heavy and severe, and at last the most that can be carried.
 std::array<int, 6> EncumbranceLimits(const CharacterSheet& sheet);
+
+/// The burden that is carried now: 1 is none, 2 light, 3 moderate, 4 heavy, 5 severe.
+int PresentLoad(const CharacterSheet& sheet);
+
+/// Boxes to tick for hit points: how many, and how many points each stands for.
+struct TickBoxCount {
+  int Boxes;
+  std::int64_t PointsEach;
+};
+TickBoxCount HitPointBoxes(int hitPoints);
+
+/// The best saving throws of the classes held, kNoSave without one, of a record that nobody has brought up to date.
+std::array<int, kSaveCount> BestSaves(const CharacterSheet& sheet);
+inline constexpr std::array<std::string_view, kSaveCount> kSaveNames{
+    "Paralyzation", "Poison",      "Death Magic", "Petrification", "Polymorph", "Rod",   "Staff",
+    "Wand",         "QuellFrenzy", "QuellLust",   "Breath Weapon", "Apology",   "Spells"};
+
+/// The level that Honor is held against: the average of the classes.
+int AverageLevel(const CharacterSheet& sheet);
+
+/// The rows of the spells known, level by level.
+std::vector<std::size_t> KnownSpells(const Game& game);
+
+/// Where a spell stands in the character's books: "12", or "2: 12" from the second book on. Empty if in none.
+std::string PageInBooks(const CharacterSheet& sheet, std::string_view spell);
+
+/// What a spell book is made of: "Travelling, 100 pages, written from 1 to 12".
+std::string BookMake(const SpellBook& book);
+
+/// A spell that stands in a book.
+struct BookEntry {
+  int Page;
+  std::string Name;
+  const SpellRecord* Spell;  ///< null for one that the catalogue does not have
+  int Pages;                 ///< that it takes; of no use without a record
+};
+std::vector<BookEntry> BookEntries(const Game& game, const SpellBook& book);
 
 /// True if the sheets show what belongs to mages.
 bool IsShownAsMage(const CharacterSheet& sheet);

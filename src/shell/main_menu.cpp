@@ -8,6 +8,8 @@
 #include "generation/save_by_extension.h"
 #include "generation/sequencer.h"
 #include "platform/platform.h"
+#include "print/party_dialog.h"
+#include "print/print_dialog.h"
 #include "referee/critical_hits.h"
 #include "referee/gm_dice_roller.h"
 #include "referee/honor_track.h"
@@ -68,6 +70,7 @@ std::vector<MenuItem> MainMenu() {
       {.Text = "&File",
        .Items = {{.Id = kNewCharacter, .Text = "&New Character", .Shortcut = "Ctrl+N"},
                  {.Id = kSave, .Text = "&Save", .Shortcut = "Ctrl+S"},
+                 {.Id = kPrint, .Text = "&Print...", .Shortcut = "Ctrl+P"},
                  {.Id = kLoad, .Text = "&Load", .Shortcut = "Ctrl+O"},
                  {.Id = kRecover, .Text = "&Recover"},
                  {.Id = kUndo, .Text = "&Undo", .Shortcut = "Ctrl+Z"},
@@ -85,7 +88,8 @@ std::vector<MenuItem> MainMenu() {
       {.Text = "&GM",
        .Items = {{.Id = kDiceRoller, .Text = "&Dice Roller"},
                  {.Id = kHonorTracking, .Text = "&Honor Tracking"},
-                 {.Id = kCriticalHits, .Text = "&Critical hits"}}},
+                 {.Id = kCriticalHits, .Text = "&Critical hits"},
+                 {.Id = kPartySheet, .Text = "&Party sheet..."}}},
   };
 }
 
@@ -108,6 +112,8 @@ void RunMainCommand(Game& game, int id) {
     case kAbout: return RunAbout(game);
     case kHonorTracking: return RunHonorTracking(game);
     case kCriticalHits: return RunCriticalHits(game);
+    case kPrint: return RunPrint(game);
+    case kPartySheet: return RunPartySheet(game);
     default: return;
   }
 }

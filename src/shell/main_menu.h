@@ -20,12 +20,14 @@ inline constexpr int kUndo = 3038;
 inline constexpr int kRedo = 3039;
 inline constexpr int kSaveRun = 3040;
 inline constexpr int kHowToBegin = 3041;
+inline constexpr int kPrint = 3042;
 inline constexpr int kCriticalHits = 3099;
 inline constexpr int kDiceTester = 5555;
 inline constexpr int kCustomItems = 5557;
 inline constexpr int kDiceRoller = 5558;
 inline constexpr int kOptions = 5559;
 inline constexpr int kHonorTracking = 5560;
+inline constexpr int kPartySheet = 5561;
 
 /// The main window's menu.
 std::vector<MenuItem> MainMenu();

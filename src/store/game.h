@@ -13,6 +13,7 @@
 #include "store/character_sheet.h"
 #include "store/generation_run.h"
 #include "store/party_file.h"
+#include "store/print_choice.h"
 
 namespace veld {
 
@@ -66,6 +67,7 @@ struct Game {
   int characters = 0;                 ///< how many have been in memory: another number, another character
   std::string partyCopy;              ///< which recovery copy is that of the party; empty: none yet
   CriticalHitNumbers criticalHits;
+  PrintChoice print;
 
   bool IsOn(std::size_t ruleSwitch) const { return ruleSwitch < kRuleSwitches && RuleSwitches[ruleSwitch] == 1; }
 };

@@ -3,6 +3,7 @@
 #include <memory>
 #include <vector>
 
+#include "platform/hand_over.h"
 #include "platform/platform.h"
 #include "platform/windows_beside.h"
 #include "terminal/form_screen.h"
@@ -28,6 +29,8 @@ class TerminalPlatform : public Platform {
   void EndProgress() override;
   bool IsLost() const override { return screen_.IsLost(); }
   bool CopyText(std::string_view text) override;
+  bool OpenFile(const std::string& path) override { return ShowInViewer(path); }
+  bool PrintFile(const std::string& path) override { return SendToPrinter(path); }
 
  protected:
   Answer DoAskYesNo(const std::string& caption, const std::string& text) override;

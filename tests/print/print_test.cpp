@@ -4,10 +4,15 @@
 #include <array>
 #include <cctype>
 #include <cstdio>
+#include <filesystem>
 #include <iterator>
 #include <sstream>
 
+#include "print/party_dialog.h"
+#include "print/party_page.h"
+#include "print/print_dialog.h"
 #include "print/print_save.h"
+#include "print/send_pdf.h"
 #include "sheets/golden_characters.h"
 #include "sheets/sheet_content.h"
 #include "sheets/text_sheet.h"
@@ -155,7 +160,8 @@ TEST_F(PrintTest, ACharacterWithEverythingComesOutWhole) {
   const std::string withCards = Text({PaperSize::Letter, true});
   EXPECT_EQ(pages(withCards) > pages(text) + 400 / 9, true);
   for (const std::string& all : {text, withCards}) {
-    for (std::ptrdiff_t page = 1; page <= pages(all); ++page) EXPECT_TRUE(Contains(all, Format("Page %i\n", page)));
+    for (std::ptrdiff_t page = 1; page <= pages(all); ++page)
+      EXPECT_TRUE(Contains(all, Format("Page %i of %i\n", page, pages(all))));
   }
   ExpectNothingCut(17, 612, 792, 11);
 }
@@ -197,6 +203,137 @@ TEST_F(PrintTest, AFileIsSavedAndToldOrRefusedWhole) {
   EXPECT_TRUE(platform.Showed("VELD: Problem creating PDF file"));
   EXPECT_FALSE(platform.Showed("Character Saved"));
   EXPECT_EQ(testing::FileText("a.pdf"), old);
+}
+
+TEST_F(PrintTest, ALetterThatNoFontHasCanBeSearched) {
+  game->sheet.CharacterName = "Ada \xF0\x93\x80\x80\xE9\xBE\x8D";
+  EXPECT_TRUE(Contains(Text(), "Ada \xF0\x93\x80\x80\xE9\xBE\x8D\n"));
+}
+
+/// Every fact of a party's rows stands on its sheet.
+void ExpectRows(const std::vector<PartyRow>& rows, const std::string& text) {
+  const std::string printed = WithoutBlanks(text);
+  for (const PartyRow& row : rows) {
+    std::string saves;
+    for (const std::string& save : row.Saves) saves += save;
+    std::vector<std::string> facts{row.Name,   row.Calling,   row.Alignment, saves + row.Honor + row.TemporalHonor,
+                                   row.Senses, row.Languages, row.Movement,  row.HitPoints};
+    facts.insert(facts.end(), row.Weapons.begin(), row.Weapons.end());
+    for (const std::string& fact : facts) {
+      EXPECT_TRUE(fact.empty() || Contains(printed, WithoutBlanks(fact))) << row.Name << ": " << fact;
+    }
+  }
+}
+
+TEST_F(PrintTest, APartyIsOnOneSheetAsItsFilesHaveIt) {
+  std::vector<PartyRow> rows;
+  for (const std::string& name : GoldenNames()) {
+    SCOPED_TRACE(name);
+    const auto read = ReadPartyRows(kGolden + name + ".vlf");
+    ASSERT_TRUE(read && read->size() == 1);
+    const PartyRow& row = read->front();
+    Load(testing::FileText(kGolden + name + ".vlf"));
+    const std::string text = TextSheet(*game);  // which brings up to date, where the row only reads
+    EXPECT_TRUE(name == "empty" || Contains(text, "Apology: " + row.Saves[kSaveApology] + " "));
+    EXPECT_TRUE(name == "empty" || Contains(text, "Hit Points: " + row.HitPoints + " ")) << row.HitPoints;
+    EXPECT_TRUE(name == "empty" || Contains(text, row.HonorCategory)) << row.HonorCategory;
+    rows.push_back(row);
+  }
+  PartyMember member;
+  member.Name = "Nobody's Cousin";
+  member.Honor = -12;
+  member.TemporalHonor = 345;
+  AddPartyRow(rows, PartyRowOf(member));
+  member.Name = rows[1].Name;
+  AddPartyRow(rows, PartyRowOf(member));  // who is on the sheet already
+  EXPECT_EQ(rows[1].Honor + rows[1].TemporalHonor + rows[1].HonorCategory, "-12345");
+  EXPECT_EQ(rows.size(), GoldenNames().size() + 1);
+  for (int i = 0; i < 150; ++i) rows[2].Weapons.push_back(Format("Weapon the %ith, hit +1, damage +2", i));
+
+  testing::WriteText("a.pdf", PartySheet(rows, PaperSize::A4));
+  const std::string text = OutputOf("pdftotext -raw a.pdf -");
+  ExpectRows(rows, text);
+  ExpectNothingCut(56, 842, 595);
+  EXPECT_TRUE(Contains(OutputOf("pdfinfo a.pdf"), "841.89 x 595.276 pts (A4)"));
+  const auto pages = std::ranges::count(text, '\f');
+  EXPECT_TRUE(pages >= 3 && Contains(text, Format("Page %i of %i\n", pages, pages))) << pages;
+  testing::WriteText("a.pdf", PartySheet({}, PaperSize::Letter));
+  EXPECT_TRUE(Contains(OutputOf("pdfinfo a.pdf"), "792 x 612 pts (letter)")) << "a blank one";
+  EXPECT_FALSE(ReadPartyRows("none.vlf"));
+  testing::WriteText("short.vlp", std::string(100, '\0'));
+  EXPECT_FALSE(ReadPartyRows("short.vlp"));
+}
+
+TEST_F(PrintTest, PrintHandsTheSheetToViewerPrinterOrFile) {
+  Load(testing::FileText(kGolden + "mage.vlf"));
+  const auto print = [&](int button, std::initializer_list<int> marks = {}, const char* path = nullptr) {
+    platform.ExpectForm("Print", [=](Form& form) {
+      for (const int mark : marks) EXPECT_TRUE(form.Mark(mark, true));
+      form.Press(button);
+      form.PressCloseBox();
+    });
+    if (path) platform.ExpectSavePath(path);
+    RunPrint(*game);
+  };
+  constexpr int kCards = 21;
+  print(kPrintView, {kPaperLetter, kCards});
+  ASSERT_EQ(platform.opened.size(), 1U);
+  const std::string shown = platform.opened.front();
+  EXPECT_EQ(shown, std::filesystem::current_path().string() + "/print/1 Ilvanna Quill.pdf");
+  EXPECT_TRUE(platform.messages.empty());
+  EXPECT_TRUE(Contains(OutputOf("pdfinfo '" + shown + "'"), "(letter)"));
+  EXPECT_EQ(testing::FileText(shown).size(), PdfSheet(*game, {PaperSize::Letter, true}).size());
+
+  platform.canHandOver = false;
+  print(kPrintPrinter);  // with what was chosen before
+  ASSERT_EQ(platform.printed.size(), 1U);
+  EXPECT_TRUE(platform.Showed("It lies as a PDF file in " + platform.printed[0])) << platform.messages.back();
+  EXPECT_EQ(testing::FileText(platform.printed[0]).size(), testing::FileText(shown).size());
+
+  print(kPrintSave, {kPaperA4}, "mine.pdf");
+  EXPECT_TRUE(platform.Showed("Character Saved in PDF format"));
+  EXPECT_TRUE(testing::FileText("mine.pdf").starts_with("%PDF-"));
+
+  // Five are kept, and nothing of another name is touched; a folder that is none is told.
+  testing::WriteText("print/mine.pdf", "mine");
+  for (int i = 0; i < kKeptPdfs; ++i) EXPECT_NE(KeepPdf("..", "bytes"), "");
+  const std::filesystem::directory_iterator files("print");
+  EXPECT_EQ(std::distance(begin(files), end(files)), kKeptPdfs + 1);
+  EXPECT_EQ(testing::FileText("print/7 ...pdf") + testing::FileText("print/mine.pdf"), "bytesmine");
+  std::filesystem::remove_all("print");
+  testing::WriteText("print", "a file");
+  print(kPrintView);
+  EXPECT_TRUE(platform.Showed("Problem creating PDF file"));
+  EXPECT_EQ(platform.opened.size(), 1U);
+}
+
+TEST_F(PrintTest, ThePartySheetGathersFilesAndWhoIsInMemory) {
+  game->party.Count = 1;
+  game->party.Rows[1].Name = "Ilvanna Quill";
+  game->party.Rows[1].TemporalHonor = 77;
+  Load(testing::FileText(kGolden + "thief.vlf"));
+  testing::WriteText("odd.vlf", "nothing of ours");
+  platform.ExpectForm("PartySheet", [&](Form& form) {
+    enum { kRows = 20, kAddFile, kAddCharacter, kRemove };
+    for (int i = 0; i < 3; ++i) form.Press(kAddFile);
+    EXPECT_TRUE(platform.Showed("This file can not be loaded."));
+    form.Press(kAddCharacter);
+    EXPECT_EQ(form.Items(kRows),
+              (std::vector<std::string>{"Ilvanna Quill, Human Magic-User 1", "Nob Underhand, Dwarf Thief 3"}));
+    form.Press(kPrintView);
+    form.Press(kRemove);
+    form.Press(kRemove);
+    form.Press(kRemove);
+    EXPECT_TRUE(form.Items(kRows).empty());
+    form.PressCloseBox();
+  });
+  for (const std::string& path : {kGolden + "mage.vlf", std::string("odd.vlf"), std::string()}) {
+    platform.ExpectOpenPath(path);
+  }
+  RunPartySheet(*game);
+  ASSERT_EQ(platform.opened.size(), 1U);
+  const std::string text = OutputOf("pdftotext -raw '" + platform.opened[0] + "' -");
+  EXPECT_TRUE(Contains(text, " 34 77 12/9/6/3/1\n") && Contains(text, "Quarterstaff, S 1d6+1")) << text;
 }
 
 }  // namespace

@@ -247,6 +247,55 @@ TEST_F(SheetsTest, WhatThePlayerTypedBreaksNoLayOut) {
   EXPECT_TRUE(Contains(TextSheet(*game), "Ill imm: 1<sup>st</sup>-level spell mishap 0 \n"));
 }
 
+/// The text of a page as a reader sees it.
+std::string Read(std::string html) {
+  html.erase(0, html.find("</style>"));
+  constexpr std::pair<std::string_view, std::string_view> kMarks[] = {
+      {"<sup>", ""}, {"</sup>", ""}, {"&lt;", "<"}, {"&gt;", ">"}, {"&quot;", "\""}, {"&#39;", "'"}, {"&amp;", "&"}};
+  for (const auto& [mark, read] : kMarks) {
+    for (std::size_t at = 0; (at = html.find(mark, at)) != std::string::npos; at += read.size()) {
+      html.replace(at, mark.size(), read);
+    }
+  }
+  return html;
+}
+
+TEST_F(SheetsTest, TheWebSheetHasEveryFactInTheOrderOfTheSheetOnPaper) {
+  for (const std::string& name : GoldenNames()) {
+    SCOPED_TRACE(name);
+    Load(name);
+    const std::string html = HtmlSheet(*game);
+    const std::string text = Read(html);
+    for (const SheetBlock& block : GatherSheet(*game).Blocks) {
+      for (const SheetFact& fact : block.Facts) {
+        if (fact.Form == SheetForm::Hidden || fact.Form == SheetForm::MarkupEffect) continue;
+        const bool isShown = fact.Form != SheetForm::Effect || !TrimRight(fact.Value).empty();
+        if (!isShown || fact.Label + fact.Value == "") continue;
+        for (const std::string& part : {fact.Label, Format(fact.Html, fact.Value)}) {
+          EXPECT_TRUE(part.empty() || Contains(text, ">" + part + "<") || Contains(text, part + " <b>"))
+              << block.Title << ": " << part;
+        }
+      }
+    }
+    std::size_t last = 0;
+    for (const std::string_view heading :
+         {"Character Information", "Ability Scores", "Hit Points", "Armor and shield", "Saving Throws",
+          "Melee Weapons", "Missile Weapons", "Movement and Encumbrance", "Honor", "Thief Abilities", "Classes",
+          "Skills", "Talents", "Weapon Proficiencies", "Quirks and Flaws", "Pixie Fairy Tattoos", "Inventory",
+          "Coins & Money", "Inheritance and debts", "Family Information", "Fighter Background", "Notes", "Spells",
+          "Spell Planner"}) {
+      std::size_t at = text.find(Format(">%s</h", heading));
+      if (at == std::string::npos) continue;
+      EXPECT_LT(last, at) << heading;
+      last = at;
+    }
+  }
+  game->sheet.CarriedWeightLbs = 100'000;
+  EXPECT_TRUE(Contains(HtmlSheet(*game), "<th scope=\"col\" class=\"now\">Severe</th>"));
+  game->sheet.HitPoints = 2'000'000'000;
+  EXPECT_LT(HtmlSheet(*game).size(), 40'000U) << "the boxes to tick stand for more then";
+}
+
 TEST_F(SheetsTest, GoodsOfTheUsersOwnAreNeverHidden) {
   EquipmentRecord& jar = game->CustomEquipmentTable[0];
   jar.Name = "Jar of teeth";

@@ -133,6 +133,10 @@ TEST_F(ShellTest, MenuCommandsNameTheCharacterInMemory) {
     form.PressDefault();
   });
   RunMainCommand(*game, kAbout);
+  for (const auto& [form, command] : {std::pair("Print", kPrint), std::pair("PartySheet", kPartySheet)}) {
+    platform.ExpectForm(form, [](Form& page) { page.PressCloseBox(); });
+    RunMainCommand(*game, command);
+  }
   RunMainCommand(*game, kExit);
   EXPECT_TRUE(platform.mainWindowClosed);
 }

@@ -40,6 +40,9 @@ class ScriptedPlatform : public Platform {
   bool mainWindowClosed = false;
   std::vector<int> progress;
   std::string clipboard;
+  std::vector<std::string> opened;   ///< files that were handed to the viewer
+  std::vector<std::string> printed;  ///< and to the printer
+  bool canHandOver = true;           ///< there is a viewer and a printer
   bool Showed(std::string_view part) const;  ///< a message held this text
   std::size_t StepsLeft() const { return script_.size(); }
 
@@ -55,6 +58,14 @@ class ScriptedPlatform : public Platform {
   bool CopyText(std::string_view text) override {
     clipboard = std::string(text);
     return true;
+  }
+  bool OpenFile(const std::string& path) override {
+    opened.push_back(path);
+    return canHandOver;
+  }
+  bool PrintFile(const std::string& path) override {
+    printed.push_back(path);
+    return canHandOver;
   }
   std::int64_t Now() const override { return now; }
 

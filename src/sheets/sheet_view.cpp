@@ -1,4 +1,4 @@
-#include "print/sheet_view.h"
+#include "sheets/sheet_view.h"
 
 #include <algorithm>
 
