@@ -49,7 +49,7 @@ constexpr int kListLines = 17;
 constexpr int kButtonRow = kListTop + kListRows;
 
 constexpr auto kSkillsControls = [] {
-  std::array<ControlTemplate, 44> controls{};
+  std::array<ControlTemplate, 45> controls{};
   std::size_t next = 0;
   const auto add = [&](ControlTemplate control, int columnSpan = 1) {
     control.ColumnSpan = columnSpan;
@@ -58,10 +58,11 @@ constexpr auto kSkillsControls = [] {
   add(TitleAt(0, 0, "Step 12: Skills, Talents and Proficiencies"), kColumns);
   for (int ability = 0; ability < kAbilityCount; ++ability) add(ResultAt(1, 0, kFirstAbility + ability, 11), kColumns);
 
-  add(LabelAt(3, 0, "&Category"));
-  add(ComboAt(3, 0, kCategory, 23));
-  add(LabelAt(4, 0, "&Search"));
-  add(EditAt(4, 0, kSearch, 28, 60));
+  add(LabelAt(2, 0, "&Category"));
+  add(ComboAt(2, 0, kCategory, 23));
+  add(LabelAt(3, 0, "&Search"));
+  add(SearchAt(3, 0, kSearch, kAvailable, 28, 60));
+  add(LabelAt(4, 0, "Skills to &learn"));
   add(ListAt(kListTop, 0, kAvailable, 44, kListLines, kListRows));
 
   add(ResultAt(4, 1, SkillsControl::Selected, 38), 2);
@@ -306,9 +307,7 @@ void RunSkills(Game& game) {
     if (id == kCategory) refill();
     if (id == kAvailable) ShowSkillCost(game, page.form, page.SelectedName());
   };
-  page.form.onEdit = [&](int id) {
-    if (id == kSearch) refill();
-  };
+  page.form.onEdit = [&](int) { FillSkillList(game, page); };
   page.form.onCommand = [&](int id) {
     const SkillTarget selectedOwned = FindOwnedSkill(game.sheet, page.SelectedOwned());
     RunCommand(game, page, id);
