@@ -22,7 +22,7 @@ enum : int {
   kRollAge = 6078
 };
 
-constexpr int kNumberWidth = 10;
+constexpr int kNumberWidth = 8;
 
 /// The race whose training takes no years: its age is as it is, and the button does nothing.
 

@@ -54,14 +54,14 @@ constexpr ControlTemplate kQuirksandFlawsControls[] = {
     ButtonAt(10, 0, kAbort, "&Abort", ButtonRole::Cancel),
 };
 constexpr std::string_view kQuirksHelp =
-    "Here the dice say what is wrong with him. The box lists every table that may be rolled on, the list below those "
-    "that are owed a roll: choose one in either and press Roll, or just press Roll; Next tells what that will be. A 6A table is where each of your rolls begins; pick that of the codex, or of "
+    "Here the dice say what is wrong with him. The box and the list below hold the tables that are owed a roll: choose "
+    "one or none and press Roll; Next tells what that will be. A 6A table is where each of your rolls begins; pick that of the codex, or of "
     "an almanac, which then binds him to a class of that almanac. Many rows send you on to a lower table, and that "
-    "roll must be made too.\n\n"
+    "roll must be made.\n\n"
     "Each result asks whether you keep it. To refuse one costs 1 BP, paid at once; what you keep pays its own BP, "
     "shown as Potential BPs and added when the step ends. The same flaw can come twice and pay twice. Some rows the "
     "referee decides, at the end of the run.\n\n"
-    "OK goes on when no roll is owed any more.";
+    "OK goes on when none is owed any more.";
 constexpr FormTemplate kQuirksandFlaws{"QuirksandFlaws", kQuirksCaption, kQuirksandFlawsControls, kQuirksHelp};
 constexpr FormTemplate kQuirksandFlawsMage{"QuirksandFlawsMage", kQuirksCaption, kQuirksandFlawsControls, kQuirksHelp};
 

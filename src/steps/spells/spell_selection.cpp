@@ -66,15 +66,14 @@ constexpr auto kSpellControls = [] {
   return controls;
 }();
 constexpr std::string_view kSpellSellectionHelp =
-    "The spells a new mage has learned. What his class and his master gave him was dealt by the dice already and "
-    "stands in Your Spell List, marked as dealt; here you choose the cantrips. Pick one of the groups in the box on "
-    "the left, choose a cantrip and press Add, which goes on to the next one; Remove gives it back. Add from here down "
-    "takes the chosen one and those below it, as many as he may still have. The line on top tells how many that are: "
-    "twice his Intelligence, far fewer under a chintzy mentor. They cost no BP, and unused places are lost: Close says "
-    "how many there are, and leaves when it is pressed again.\n\n"
-    "Below stands all there is to know of the spell you choose: range, components, duration and the rest. The box on "
-    "the right shows all that he knows, or one group or level of it. Take some cantrips of use at night and in rain, "
-    "and one that amuses a tavern.";
+    "The spells a new mage has learned. What his class and his master gave him was dealt by the dice and stands in "
+    "Your Spell List; here you choose the cantrips. Pick a group on the left, choose a cantrip "
+    "and press Add, which goes on to the next one; Remove gives it back. Add from here down takes it and "
+    "those below it, as many as he may have. The line on top tells how many that are: twice his Intelligence, far "
+    "fewer under a chintzy mentor. They cost no BP.\n\n"
+    "Below stands what there is to know of a chosen spell. The box on the right shows all that he knows, or a "
+    "part of it. Close goes on; unused places are lost, so it asks to be pressed again. Take some of use at night and "
+    "in rain.";
 constexpr FormTemplate kSpellSellection{"SpellSellection", "Spell Selection", kSpellControls, kSpellSellectionHelp};
 constexpr std::string_view kFreeSpellSellectionHelp =
     "His years at school earned him a spell for nothing; the line on top tells of what levels. Choose the list in the "
@@ -202,11 +201,13 @@ void RunCantripDialog(Game& game) {
   form.onSelect = [&](int id) { page.OnSelect(id); };
   form.onCommand = [&](int id) {
     if (id == kClose) return page.PressClose(CantripsLeft(game));
+    const auto known = game.sheet.SpellsKnown;
     const int chosen = form.Selection(kMasterList);
     const std::span<const std::size_t> listed(page.master);
     if (id == kAdd && chosen >= 0) LearnCantrips(game, listed.subspan(static_cast<std::size_t>(chosen), 1));
     if (id == kAddBelow) LearnCantrips(game, listed.subspan(static_cast<std::size_t>(std::max(chosen, 0))));
     if (id == kRemove) ForgetSpell(game, page.Chosen(kOwnList));
+    if (game.sheet.SpellsKnown == known) return;
     page.Fill(id != kRemove);
     ShowSlotsLeft(game, form);
     page.ShowNext(CantripsLeft(game));
