@@ -43,7 +43,8 @@ struct ActKey {
 constexpr ActKey kActKeys[] = {
     {Qt::CTRL | Qt::Key_Z, false}, {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, true}, {Qt::CTRL | Qt::Key_Y, true}};
 
-/// The page, where it is larger than the window. Up and Down are not its own to scroll by: they lead from field to field.
+/// The page, where it is larger than the window. Up and Down are not its own to scroll by: they lead from field to
+/// field.
 class PageScroll : public QScrollArea {
  public:
   using QScrollArea::QScrollArea;

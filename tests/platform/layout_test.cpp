@@ -268,7 +268,8 @@ TEST(Layout, AResultMayStandBetweenALabelAndItsField) {
 
 TEST(Search, ChoosesTheFirstFoundAndLeadsToItsList) {
   enum : int { kSearch = 20, kGoods = 21 };
-  static constexpr ControlTemplate kSearchControls[] = {ListAt(0, 0, kGoods, 20, 4), SearchAt(1, 0, kSearch, kGoods, 9)};
+  static constexpr ControlTemplate kSearchControls[] = {ListAt(0, 0, kGoods, 20, 4),
+                                                        SearchAt(1, 0, kSearch, kGoods, 9)};
   static constexpr FormTemplate kSearchForm{"Search", "Search", kSearchControls, ""};
   Form form(kSearchForm);
   std::vector<std::string> told;

@@ -76,7 +76,8 @@ constexpr auto kBardControls = AllotmentControls("Bard Abilities", kBardLabels, 
 constexpr auto kBountyHunterControls = AllotmentControls("Bounty Hunter Abilities", kBountyHunterLabels, false);
 constexpr std::string_view kThiefHelp =
     "This level's points for the thieves' arts. Type how many go to each; Total shows what he has with them, with his "
-    "race and his Dexterity, and the line on top the points that are left. All of them must be given out, none can be saved. No art takes more than 30 of them, or "
+    "race and his Dexterity, and the line on top the points that are left. All of them must be given out, none can be "
+    "saved. No art takes more than 30 of them, or "
     "15 when there are 35 or fewer to give. A thief who finds traps and can not remove them is half a thief.";
 constexpr FormTemplate kThief{"ThiefAbilities", "Thief Abilities", kThiefControls, kThiefHelp};
 constexpr std::string_view kBardHelp =

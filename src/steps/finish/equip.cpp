@@ -81,7 +81,8 @@ constexpr ControlTemplate kEquipControls[] = {
 };
 constexpr std::string_view kEquipHelp =
     "The shop, and the last step. Choose a category, or type a part of a name in Search, which looks through all "
-    "categories and tells with each find which one it stands in; clear it to be back in yours. Choose what you want, see its price and weight, and press Add. Change is made from greater coins by "
+    "categories and tells with each find which one it stands in; clear it to be back in yours. Choose what you want, "
+    "see its price and weight, and press Add. Change is made from greater coins by "
     "itself. Remove gives the whole price back, so nothing is lost by trying. Your own goods from the Custom Item "
     "Editor are sold beside the others.\n\n"
     "Buy in this order: the weapon he is proficient with, armor that his class lets him wear, a pack, food for a "

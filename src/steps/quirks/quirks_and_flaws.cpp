@@ -55,7 +55,8 @@ constexpr ControlTemplate kQuirksandFlawsControls[] = {
 };
 constexpr std::string_view kQuirksHelp =
     "Here the dice say what is wrong with him. The box and the list below hold the tables that are owed a roll: choose "
-    "one or none and press Roll; Next tells what that will be. A 6A table is where each of your rolls begins; pick that of the codex, or of "
+    "one or none and press Roll; Next tells what that will be. A 6A table is where each of your rolls begins; pick "
+    "that of the codex, or of "
     "an almanac, which then binds him to a class of that almanac. Many rows send you on to a lower table, and that "
     "roll must be made.\n\n"
     "Each result asks whether you keep it. To refuse one costs 1 BP, paid at once; what you keep pays its own BP, "
