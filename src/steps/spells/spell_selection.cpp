@@ -110,6 +110,7 @@ struct SpellPage {
   std::string_view noun;  ///< what is picked
   std::vector<std::size_t> master = {};
   std::vector<std::size_t> own = {};
+  int picksLeft = 0;
   bool isWarned = false;  ///< that Close leaves picks
 
   std::string LineOf(std::size_t row) const {
@@ -161,19 +162,30 @@ struct SpellPage {
   }
 
   void OnSelect(int id) {
-    if (id == kMasterCombo || id == kOwnCombo) return Fill();
-    ShowSpell(Chosen(id));
+    if (id != kMasterCombo && id != kOwnCombo) return ShowSpell(Chosen(id));
+    Fill();
+    if (!isWarned) ShowNext();
   }
 
-  /// Says what comes next, and goes there.
-  void ShowNext(int picksLeft) {
+  /// Says what comes next. Returns its control.
+  int ShowNext() {
+    const bool isOver = picksLeft <= 0;
+    const bool isGroupTaken = master.empty();
+    form.SetText(kNext, isOver         ? "Next: Close"
+                        : isGroupTaken ? "Next: choose from another group"
+                                       : Format("Next: choose a %s and press Add", noun));
+    return isOver ? kClose : isGroupTaken ? kMasterCombo : kMasterList;
+  }
+
+  /// After a pick: goes to what comes next.
+  void GoOn(int left) {
+    picksLeft = left;
     isWarned = false;
-    form.SetText(kNext, picksLeft > 0 ? Format("Next: choose a %s and press Add", noun) : "Next: Close");
-    form.Focus(picksLeft > 0 ? kMasterList : kClose);
+    form.Focus(ShowNext());
   }
 
   /// The first Close with picks left tells how many they are; the next one leaves.
-  void PressClose(int picksLeft) {
+  void PressClose() {
     if (picksLeft <= 0 || std::exchange(isWarned, true)) return form.Close();
     const bool isOne = picksLeft == 1;
     form.SetText(kNext, Format("%i %s%s not chosen; press Close again to leave %s", picksLeft, noun, isOne ? "" : "s",
@@ -196,11 +208,11 @@ void RunCantripDialog(Game& game) {
     form.Select(kOwnCombo, static_cast<int>(SpellCategories.size()));
     page.Fill();
     ShowSlotsLeft(game, form);
-    page.ShowNext(CantripsLeft(game));
+    page.GoOn(CantripsLeft(game));
   };
   form.onSelect = [&](int id) { page.OnSelect(id); };
   form.onCommand = [&](int id) {
-    if (id == kClose) return page.PressClose(CantripsLeft(game));
+    if (id == kClose) return page.PressClose();
     const auto known = game.sheet.SpellsKnown;
     const int chosen = form.Selection(kMasterList);
     const std::span<const std::size_t> listed(page.master);
@@ -210,7 +222,7 @@ void RunCantripDialog(Game& game) {
     if (game.sheet.SpellsKnown == known) return;
     page.Fill(id != kRemove);
     ShowSlotsLeft(game, form);
-    page.ShowNext(CantripsLeft(game));
+    page.GoOn(CantripsLeft(game));
   };
   game.platform.RunForm(form);
 }
@@ -275,11 +287,11 @@ void RunFreeSpellSellection(Game& game, FreeSpellKind kind) {
     form.Select(kOwnCombo, static_cast<int>(SpellCategories.size()));
     for (const int id : {kRemove, kAddBelow}) form.SetVisible(id, false);
     page.Fill();
-    page.ShowNext(1);
+    page.GoOn(std::min(LearnableSpells(game, categories), 1));
   };
   form.onSelect = [&](int id) { page.OnSelect(id); };
   form.onCommand = [&](int id) {
-    if (id == kClose) return page.PressClose(std::min(LearnableSpells(game, categories), 1));
+    if (id == kClose) return page.PressClose();
     const std::size_t row = page.Chosen(kMasterList);
     if (id != kAdd || row >= kSpellRows) return;
     LearnSpell(game, row);

@@ -236,6 +236,7 @@ TEST_F(SpellsTest, ManyCantripsAreChosenInAFewPresses) {
     for (int group = 0; group < 8; ++group) {
       form.Choose(kMasterCombo, group);
       form.Press(kAddBelow);
+      EXPECT_EQ(form.Text(kNext), group < 7 ? "Next: choose from another group" : "Next: Close");
     }
     EXPECT_EQ(CantripsLeft(*game), 0) << "places that no cantrip is left for are not missed";
     form.PressCloseBox();
