@@ -43,6 +43,19 @@ struct ActKey {
 constexpr ActKey kActKeys[] = {
     {Qt::CTRL | Qt::Key_Z, false}, {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, true}, {Qt::CTRL | Qt::Key_Y, true}};
 
+/// The page, where it is larger than the window. Up and Down are not its own to scroll by: they lead from field to
+/// field.
+class PageScroll : public QScrollArea {
+ public:
+  using QScrollArea::QScrollArea;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down) return event->ignore();
+    QScrollArea::keyPressEvent(event);
+  }
+};
+
 }  // namespace
 
 void FillMenu(QWidget& menu, const std::vector<MenuItem>& items, const std::function<void(int id)>& onChosen) {
@@ -68,7 +81,7 @@ void FillMenu(QWidget& menu, const std::vector<MenuItem>& items, const std::func
 
 FormWindow::FormWindow(Form& form, const PaperStyle& style, QWidget* parent)
     : QDialog(parent), form_(form), style_(style), metrics_(style.Metrics) {
-  scroll_ = new QScrollArea(this);
+  scroll_ = new PageScroll(this);
   scroll_->setFrameShape(QFrame::NoFrame);
   scroll_->setFocusPolicy(Qt::NoFocus);
   paper_ = new Paper(style.Metrics.MarginTop, style.Metrics.Pitch, nullptr);

@@ -38,7 +38,7 @@ constexpr auto kControls = [] {
   // No field has a limit: what is too long is refused with a word, not cut.
   auto controls = std::to_array<ControlTemplate>({
       LabelAt(0, 0, "&Search"),
-      EditAt(0, 1, kSearch, 30),
+      SearchAt(0, 1, kSearch, kGoods, 30),
       LabelAt(1, 0, "Your own &goods"),
       ListAt(2, 0, kGoods, kPageWidth, kListLines),
       LabelAt(3, 0, "&Name"),
@@ -189,6 +189,7 @@ void RunCustomItemEditor(Game& game) {
   page.form.onSelect = [&](int id) {
     if (id != kGoods) return;
     const std::size_t row = ChosenRow(page);
+    if (row == kEquipmentRows) return;  // the search finds none: what is being filled in stays
     ShowFields(page.form, EntryOf(game.CustomEquipmentTable[row]));
     page.form.SetText(kStatus, CustomGoodNote(game, row));
   };

@@ -156,7 +156,7 @@ constexpr ControlTemplate kControls[] = {
     LabelAt(8, 2, "&Last page"),
     NumberAt(8, 2, kLastPage, kNumberWidth),
     LabelAt(9, 0, "Searc&h"),
-    EditAt(9, 0, kSearch, 16, 60),
+    SearchAt(9, 0, kSearch, kKnown, 16, 60),
     Wide(LabelAt(9, 1, "Spells in the book")),
     ListAt(10, 0, kKnown, kLeftWidth, 6),
     Wide(ListAt(10, 1, kPages, kRightWidth, 6)),
@@ -546,11 +546,7 @@ void RunEditSpellBooks(Game& game) {
   form.onSelect = [&](int id) { page.OnSelect(id); };
   form.onEdit = [&](int id) {
     if (id == kPagesOfSpell) page.isTyped = true;
-    if (id != kSearch) return;
-    page.FillKnown();
-    if (form.Text(kSearch).empty()) return;
-    form.Select(kKnown, 0);
-    page.ShowKnown();
+    if (id == kSearch) page.FillKnown();
   };
   form.onCommand = [&](int id) {
     if (id == kCancel) return form.Close();

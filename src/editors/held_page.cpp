@@ -57,7 +57,7 @@ constexpr ControlTemplate kControls[] = {
     ComboAt(1, 0, kShow, 20),
     ResultAt(1, 1, kState, kListWidth),
     LabelAt(2, 0, "Searc&h"),
-    EditAt(2, 0, kSearch, 24, kSearchBytes),
+    SearchAt(2, 0, kSearch, kCatalogue, 24, kSearchBytes),
     LabelAt(2, 1, "The character has"),
     ListAt(3, 0, kCatalogue, kListWidth, kListLines),
     ListAt(3, 1, kHeld, kListWidth, kListLines),
@@ -224,10 +224,7 @@ struct Page {
 
   void OnEdit(int id) {
     if (id == kNumber) isTyped = true;
-    if (id != kSearch) return;
-    FillCatalogue();
-    if (!form.Text(kSearch).empty()) return ChooseFirst();
-    ShowChosen();
+    if (id == kSearch) FillCatalogue();
   }
 
   /// A value that was typed and not set is set by OK too.

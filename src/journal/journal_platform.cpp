@@ -180,7 +180,7 @@ void JournalPlatform::GoLive() {
   journal_.Entries.resize(std::min(next_, journal_.Entries.size()));
   isReplaying_ = false;
   if (!title_.empty()) front_.SetMainTitle(std::exchange(title_, {}));
-  if (onHandOver) onHandOver(*game_);
+  if (onChanged) onChanged(*game_);
   if (!std::exchange(isMisfit_, false)) return;
   journal_.TakenBack.clear();
   KeepWhole();
@@ -369,6 +369,10 @@ void JournalPlatform::OnAct(const Form& form, const FormAct& act) {
     case FormAct::Kind::CloseBox:
       return Record({.What = Kind::CloseBox});
   }
+}
+
+void JournalPlatform::OnCarriedOut() {
+  if (game_ && !isReplaying_ && !isUnwinding_ && !front_.IsLost() && onChanged) onChanged(*game_);
 }
 
 /// A text that is being typed is one entry. The line of a long one is written when something else is done, so that the

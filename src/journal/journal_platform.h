@@ -35,8 +35,9 @@ class JournalPlatform : public Platform, private FormActs {
   bool HasRun() const { return game_ != nullptr; }
   const RunJournal& Journal() const { return journal_; }
 
-  /// Shows the character on the main window's page when a run that was played again is handed over.
-  std::function<void(Game&)> onHandOver;
+  /// Shows the character on the main window's page: after each press of a run, and when one that was played again is
+  /// handed over.
+  std::function<void(Game&)> onChanged;
 
   // Undo and Redo, also of the main window when the run has ended.
   bool CanTakeBack() const override;
@@ -70,6 +71,7 @@ class JournalPlatform : public Platform, private FormActs {
 
  private:
   void OnAct(const Form& form, const FormAct& act) override;
+  void OnCarriedOut() override;
   void Record(JournalEntry entry);
   void WriteLine(std::string_view line);
   void WritePending();

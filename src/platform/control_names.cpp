@@ -83,6 +83,10 @@ std::size_t NamedControl(const Form& form, std::size_t label) {
 
 std::size_t ControlInNextRow(const Form& form, std::size_t control, int rows) {
   const auto& controls = form.Controls();
+  if (const int searched = controls[control].Template.Searches; searched != 0) {
+    const auto list = std::ranges::find(controls, searched, [](const Control& other) { return other.Template.Id; });
+    return static_cast<std::size_t>(list - controls.begin());
+  }
   const std::size_t next = Vertical(form, control, rows);
   if (next == controls.size() || !controls[next].Enabled) return controls.size();
   return controls[next].Template.Kind == controls[control].Template.Kind ? next : controls.size();

@@ -16,8 +16,9 @@ std::string ControlName(const Form& form, std::size_t control);
 /// place in Form::Controls(), or the number of controls if there is none.
 std::size_t NamedControl(const Form& form, std::size_t label);
 
-/// The usable control of the same kind and column in the row above (-1) or below (1), where fields stand in a table.
-/// Its place in Form::Controls(), or the number of controls if there is none.
+/// Where Up (-1) and Down (1) lead: from a search to the list that it searches; where fields stand in a table, to the
+/// usable control of the same kind and column in the next row. Its place in Form::Controls(), or the number of controls
+/// if there is none.
 std::size_t ControlInNextRow(const Form& form, std::size_t control, int rows);
 
 /// True for the kinds in which '&' stands before the letter that reaches the control; "&&" is a plain '&' there.

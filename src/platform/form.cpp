@@ -150,6 +150,21 @@ void Form::TellAct(const FormAct& act) const {
   if (acts_) acts_->OnAct(*this, act);
 }
 
+/// The handler may end the form: nothing of it is touched afterwards.
+void Form::Command(int id) {
+  FormActs* const acts = acts_;
+  if (onCommand) onCommand(id);
+  if (acts) acts->OnCarriedOut();
+}
+
+/// What is chosen depends on the text alone that stands in the search, not on the way in which it was typed: a journal
+/// keeps the last text only.
+void Form::ChooseFound(int list, bool isSought) {
+  if (closed_ || list == 0) return;
+  Select(list, isSought ? 0 : -1);
+  if (onSelect) onSelect(list);
+}
+
 void Form::TakeBack() {
   if (CanTakeBack()) acts_->TakeBack();
 }
@@ -162,7 +177,7 @@ bool Form::Press(int id) {
   const Control* control = Find(id);
   if (!IsUsable(control) || control->Template.Kind != ControlKind::Button) return false;
   TellAct({.What = FormAct::Kind::Press, .Id = id});
-  if (onCommand) onCommand(id);
+  Command(id);
   return true;
 }
 
@@ -193,6 +208,7 @@ bool Form::Type(int id, std::string_view text) {
     Changed(*control);
   }
   if (onEdit) onEdit(id);
+  ChooseFound(control->Template.Searches, !control->Text.empty());
   return true;
 }
 
@@ -202,14 +218,14 @@ bool Form::Mark(int id, bool checked) {
   if (!IsMark(control->Template.Kind)) return false;
   TellAct({.What = FormAct::Kind::Mark, .Id = id, .Place = checked ? 1 : 0});
   SetMark(*control, checked || control->Template.Kind == ControlKind::Radio);
-  if (onCommand) onCommand(id);
+  Command(id);
   return true;
 }
 
 bool Form::ChooseMenuItem(int id) {
   if (closed_ || id == 0 || !onCommand) return false;
   TellAct({.What = FormAct::Kind::MenuItem, .Id = id});
-  onCommand(id);
+  Command(id);
   return true;
 }
 

@@ -39,6 +39,8 @@ class FormActs {
  public:
   virtual ~FormActs() = default;
   virtual void OnAct(const Form& form, const FormAct& act) = 0;
+  /// What was pressed, marked or chosen in a menu has been carried out. The form may be gone.
+  virtual void OnCarriedOut() {}
   virtual bool CanTakeBack() const = 0;
   virtual void TakeBack() = 0;  ///< the last act that counted; the form may close
   virtual bool CanDoAgain() const = 0;
@@ -69,7 +71,9 @@ class Form {
 
   std::function<void()> onOpened;         ///< once, when the form is about to be shown
   std::function<void(int id)> onCommand;  ///< a button was pressed, a check or radio button changed, a menu item chosen
-  std::function<void(int id)> onSelect;   ///< a player chose a row of a list or combo
+  /// A player chose a row of a list or combo. Or he typed in the field that searches it: that chooses the first row
+  /// found, once onEdit has filled it, and none if nothing is found or the search is cleared.
+  std::function<void(int id)> onSelect;
   std::function<void(int id)> onEdit;     ///< a player typed
   std::vector<MenuItem> contextMenu;      ///< the menu of a right click; its ids go to onCommand
 
@@ -124,6 +128,8 @@ class Form {
   bool IsUsable(const Control* control) const;
   void SetMark(Control& control, bool checked);
   void TellAct(const FormAct& act) const;
+  void Command(int id);
+  void ChooseFound(int list, bool isSought);
 
   std::string_view name_;
   std::string title_;

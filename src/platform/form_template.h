@@ -53,7 +53,8 @@ struct ControlTemplate {
   ButtonRole Role = ButtonRole::Plain;
   int Limit = 0;          ///< Edit, MultiLine: most bytes that can be typed; 0: no limit
   int Group = 0;          ///< Radio
-  int EnterPresses = 0;   ///< Edit, Number: the button that Enter presses here; 0: the default one
+  int EnterPresses = 0;   ///< Edit, Number, List, Combo: the button that Enter presses here; 0: the default one
+  int Searches = 0;       ///< Edit: the list or combo that it searches, which Up and Down lead to
   bool IsReadOnly = false;  ///< Edit: a long result in a box, to be read to its end; nothing can be typed in it
   bool Enabled = true;
   bool Visible = true;
@@ -92,6 +93,15 @@ constexpr ControlTemplate CheckAt(int row, int column, int id, std::string_view 
 }
 constexpr ControlTemplate EditAt(int row, int column, int id, int width, int limit = 0) {
   return {.Kind = ControlKind::Edit, .Id = id, .Row = row, .Column = column, .Width = width, .Limit = limit};
+}
+constexpr ControlTemplate SearchAt(int row, int column, int id, int list, int width, int limit = 0) {
+  return {.Kind = ControlKind::Edit,
+          .Id = id,
+          .Row = row,
+          .Column = column,
+          .Width = width,
+          .Limit = limit,
+          .Searches = list};
 }
 constexpr ControlTemplate NumberAt(int row, int column, int id, int width = 8) {
   return {.Kind = ControlKind::Number, .Id = id, .Row = row, .Column = column, .Width = width};

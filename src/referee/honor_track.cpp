@@ -206,7 +206,7 @@ constexpr auto kTrackControls = [] {
       LabelAt(3, 0, "&Filter"),
       ComboAt(3, 1, kFilter, kFieldWidth),
       LabelAt(4, 0, "&Search"),
-      EditAt(4, 1, kSearch, 30, 49),
+      SearchAt(4, 1, kSearch, kAwards, 30, 49),
       LabelAt(5, 0, "&Award"),
       ComboAt(5, 1, kAwards, kFieldWidth),
       LabelAt(6, 0, "Value"),
@@ -286,14 +286,13 @@ void FillMembers(const Game& game, TrackPage& page, int row) {
   ShowValue(game, page);
 }
 
-/// Lists the awards of the chosen table that hold what is searched for, the first of those found selected.
+/// Lists the awards of the chosen table that hold what is searched for.
 void FillAwards(const Game& game, TrackPage& page) {
   const std::string_view search = TrimRight(page.form.Text(kSearch));
   page.awards = HonorAwardsOf(page.form.Selection(kFilter), search);
   std::vector<std::string> names;
   for (const HonorAward* award : page.awards) names.emplace_back(award->Name);
   page.form.SetItems(kAwards, std::move(names));
-  if (!search.empty()) page.form.Select(kAwards, 0);
   ShowValue(game, page);
 }
 

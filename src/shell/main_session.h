@@ -14,7 +14,7 @@ namespace veld {
 class MainSession {
  public:
   MainSession(Game& game, JournalPlatform& journal) : game_(game), journal_(journal) {
-    journal_.onHandOver = ShowCharacter;
+    journal_.onChanged = ShowCharacter;
   }
 
   /// Carries out a command of the main menu.

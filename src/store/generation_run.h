@@ -74,6 +74,7 @@ struct GenerationRun {
   // Spells.
   int SpellListIndex = -1;  ///< cantrips that the mage may choose; -1: no spells
   int StartingSpells = 0;   ///< -1: none are dealt
+  std::array<bool, kSpellRows> DealtSpells{};  ///< given by the tables, not chosen
   int FreeLevel1Spells = 0;
   int FreeLevel3Spells = 0;
   int FreeAnySpells = 0;

@@ -325,6 +325,32 @@ TEST_F(Desktop, WhatAPlayerDoesReachesTheFormAndWhatTheFormSaysIsShown) {
   EXPECT_EQ(commands, (std::vector<int>{kRight, kLeft, kOk}));
 }
 
+TEST_F(Desktop, UpAndDownLeadFromFieldToFieldAndFromASearchToItsList) {
+  static constexpr ControlTemplate kFields[] = {NumberAt(0, 0, kAge), NumberAt(1, 0, kSaid),
+                                                SearchAt(2, 0, kName, kList, 9), ListAt(2, 1, kList, 20, 4),
+                                                ButtonAt(3, 0, kOk, "OK", ButtonRole::Cancel)};
+  Form fields({"Fields", "Fields", kFields, ""});
+  fields.onEdit = [&](int) { fields.SetItems(kList, {"Rope", "Tent"}); };
+  fields.onCommand = [&](int) { fields.Close(); };
+  player.When("fields", Dialog("Fields"), [&] {
+    const auto focus = [] { return Top()->focusWidget()->objectName().toInt(); };
+    Press(Qt::Key_Down);
+    EXPECT_EQ(focus(), kSaid);
+    Press(Qt::Key_Up);
+    EXPECT_EQ(focus(), kAge);
+    fields.Focus(kName);
+    Type("e");
+    EXPECT_EQ(fields.SelectedText(kList), "Rope");
+    Press(Qt::Key_Down);
+    EXPECT_EQ(focus(), kList);
+    Press(Qt::Key_Down);
+    Press(Qt::Key_Escape);
+  });
+  player.Start();
+  platform.RunForm(fields);
+  EXPECT_EQ(fields.SelectedText(kList), "Tent");
+}
+
 TEST_F(Desktop, EveryControlIsReachedByTabAndByItsLetter) {
   FillForm();
   player.When("tab", Dialog("Everything"), [&] {

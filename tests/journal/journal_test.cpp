@@ -267,9 +267,12 @@ TEST(JournalTest, KeptRunsPlayToTheCharactersThatTheyMade) {
     RunJournal run;
     ASSERT_TRUE(ReadJournal(FileText(entry.path()), run));
     const std::string journal = JournalText(run);
+    int shown = 0;
+    player.journal.onChanged = [&](Game&) { ++shown; };
     player.journal.Resume(*player.game, std::move(run), BeginCharacter);
     EXPECT_TRUE(JournalText(player.journal.Journal()) == journal) << "all of it fits";
     EXPECT_EQ(player.forms, std::vector<std::string>{}) << "and nothing is left to play";
+    EXPECT_EQ(shown, 1) << "the page is shown when the run is handed over, not on the way";
     const std::string sheet = entry.path().parent_path() / (entry.path().stem().string() + ".txt");
     if (std::getenv("VELD_WRITE_GOLDEN")) testing::WriteText(sheet, TextSheet(*player.game));
     EXPECT_EQ(TextSheet(*player.game), FileText(sheet));

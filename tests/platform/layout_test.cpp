@@ -11,6 +11,8 @@
 namespace veld {
 namespace {
 
+using Lines = std::vector<std::string>;
+
 /// A desktop's metrics with letters of 7 pixels.
 PageMetrics Desktop() {
   PageMetrics m;
@@ -264,6 +266,21 @@ TEST(Layout, AResultMayStandBetweenALabelAndItsField) {
   EXPECT_EQ(marked[3], "Score") << "no letter is marked that reaches nothing";
 }
 
+TEST(Search, ChoosesTheFirstFoundAndLeadsToItsList) {
+  enum : int { kSearch = 20, kGoods = 21 };
+  static constexpr ControlTemplate kSearchControls[] = {ListAt(0, 0, kGoods, 20, 4),
+                                                        SearchAt(1, 0, kSearch, kGoods, 9)};
+  static constexpr FormTemplate kSearchForm{"Search", "Search", kSearchControls, ""};
+  Form form(kSearchForm);
+  std::vector<std::string> told;
+  form.onEdit = [&](int) { form.SetItems(kGoods, form.Text(kSearch) == "x" ? Lines{} : Lines{"Rope", "Tent"}); };
+  form.onSelect = [&](int id) { told.push_back(std::to_string(id) + form.SelectedText(kGoods)); };
+  for (const char* text : {"e", "x", "t", ""}) form.Type(kSearch, text);
+  EXPECT_EQ(told, (Lines{"21Rope", "21", "21Rope", "21"})) << "a search that is cleared chooses nothing";
+  EXPECT_EQ(ControlInNextRow(form, 1, 1), 0U);
+  EXPECT_EQ(ControlInNextRow(form, 1, -1), 0U);
+}
+
 TEST(Mnemonics, EveryControlHasALetterOfItsOwn) {
   Form form(kTemplate);
   const std::vector<std::string> texts = MarkMnemonics(form, "m");
@@ -286,7 +303,6 @@ TEST(WrapText, BreaksAtBlanksAndInsideWordsThatAreTooLong) {
   const auto wrap = [](std::string_view text, int width) {
     return WrapText(text, width, [](std::string_view line) { return static_cast<int>(line.size()); });
   };
-  using Lines = std::vector<std::string>;
   EXPECT_EQ(wrap("ab cd ef", 5), (Lines{"ab cd", "ef"}));
   EXPECT_EQ(wrap("a\r\n\nb\n", 5), (Lines{"a", "", "b", ""}));
   EXPECT_EQ(wrap("abcdefg hi", 3), (Lines{"abc", "def", "g", "hi"}));

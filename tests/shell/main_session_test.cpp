@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "sheets/character_page.h"
 #include "shell/main_menu.h"
 #include "store/character_file.h"
 #include "support/game_test.h"
@@ -101,6 +102,22 @@ TEST_F(MainSessionTest, ARunIsAbortedTakenBackSavedAndTakenUpAgain) {
   session.Command(kRedo);
   EXPECT_EQ(game->sheet.RaceName, race);
   EXPECT_EQ(platform.page.at(1).Label, "Race");
+}
+
+TEST_F(MainSessionTest, ThePageIsKeptUpWithEachPressOfALongStep) {
+  session.Command(kNewCharacter);
+  platform.window->Open();
+  for (int tries = 0; tries < 99 && platform.window->Items(kRaces).empty(); ++tries) platform.window->Press(3047);
+  platform.window->Choose(kRaces, 0);
+  platform.ExpectForm("StepSix", [&](Form& form) {
+    const auto before = platform.page;
+    form.Press(6078);
+    form.Press(6078);  // the second press costs a BP
+    EXPECT_TRUE(platform.page != before);
+    EXPECT_TRUE(platform.page == CharacterPage(*game));
+    form.PressCloseBox();
+  });
+  platform.window->Press(kContinue);
 }
 
 TEST_F(MainSessionTest, DiceThrownBesideARunAreThrownForItTooWhenItIsPlayedAgain) {

@@ -284,6 +284,18 @@ TEST(TerminalDialogsTest, EveryDialogHasAParagraphOfHelpAndOnlyMessagesHaveNone)
   }
 }
 
+TEST(TerminalDialogsTest, DownLeadsFromASearchToWhatItFinds) {
+  TestFolder folder;
+  PtyProgram program([] { return RunAtTerminal({"Step 19", RunEquip}); });
+  program.Press("Axe");
+  EXPECT_TRUE(program.Shows("Found in all")) << program.Shows();
+  EXPECT_FALSE(program.KeysLine().find("Up/Down choose") != std::string::npos) << program.Shows();
+  program.Press(kDownKey);
+  EXPECT_TRUE(program.KeysLine().find("Up/Down choose") != std::string::npos) << program.Shows();
+  program.Press(kEscapeKey);
+  EXPECT_EQ(program.WaitForEnd(), 0);
+}
+
 TEST(TerminalDialogsTest, LongWorkShowsHowFarItIsAndIsCancelled) {
   TestFolder folder;
   const Dialog work{"Work", [](Game& game) {

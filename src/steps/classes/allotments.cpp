@@ -2,11 +2,13 @@
 
 #include <algorithm>
 
+#include "platform/control_names.h"
 #include "platform/form.h"
 #include "platform/platform.h"
 #include "rules/named_rows.h"
 #include "rules/thief_tables.h"
 #include "text/format.h"
+#include "text/numbers.h"
 
 namespace veld {
 
@@ -19,6 +21,7 @@ constexpr int kAbort = 2;
 constexpr int kFirstTotal = 10;
 constexpr int kPointsText = 150;
 constexpr int kLimitText = 151;
+constexpr int kRefusal = 152;
 constexpr int kFirstEntry = 3000;
 
 constexpr int kThiefLimit = 30;
@@ -41,7 +44,7 @@ constexpr std::string_view kBountyHunterLabels[] = {"&Find Traps", "&Remove Trap
 template <std::size_t N>
 constexpr auto AllotmentControls(std::string_view title, const std::string_view (&labels)[N], bool hasAbort) {
   constexpr int kFirstRow = 4;
-  std::array<ControlTemplate, 3 * N + 7> controls{};
+  std::array<ControlTemplate, 3 * N + 8> controls{};
   std::size_t next = 0;
   controls[next++] = TitleAt(0, 0, title, 3);
   controls[next] = ResultAt(1, 0, kPointsText, 40, "You have 20 points to spend");
@@ -57,6 +60,8 @@ constexpr auto AllotmentControls(std::string_view title, const std::string_view 
     controls[next++] = NumberAt(kFirstRow + place, 2, kFirstEntry + place, 6);
   }
   const int lastRow = kFirstRow + static_cast<int>(N) + 1;
+  controls[next] = ResultAt(lastRow - 1, 0, kRefusal, 60);
+  controls[next++].ColumnSpan = 3;
   controls[next] = ButtonAt(lastRow, 0, kOk, "&OK", ButtonRole::Default);
   controls[next++].ColumnSpan = 3;
   controls[next] = ButtonAt(lastRow, 0, kAbort, "&Abort", ButtonRole::Cancel);
@@ -70,18 +75,19 @@ constexpr auto kThiefControls = AllotmentControls("Thief Abilities", kThiefLabel
 constexpr auto kBardControls = AllotmentControls("Bard Abilities", kBardLabels, false);
 constexpr auto kBountyHunterControls = AllotmentControls("Bounty Hunter Abilities", kBountyHunterLabels, false);
 constexpr std::string_view kThiefHelp =
-    "This level's points for the thieves' arts. Type how many go to each; Total shows what he has so far, with his "
-    "race and his Dexterity. All of them must be given out, none can be saved. No art takes more than 30 of them, or "
+    "This level's points for the thieves' arts. Type how many go to each; Total shows what he has with them, with his "
+    "race and his Dexterity, and the line on top the points that are left. All of them must be given out, none can be "
+    "saved. No art takes more than 30 of them, or "
     "15 when there are 35 or fewer to give. A thief who finds traps and can not remove them is half a thief.";
 constexpr FormTemplate kThief{"ThiefAbilities", "Thief Abilities", kThiefControls, kThiefHelp};
 constexpr std::string_view kBardHelp =
     "This level's points for what a bard does like a thief. Type how many go to each of the four arts; Total shows "
-    "what he has so far. All must be given out, and they may all go to one. Picking pockets is the one that gets "
+    "what he has with them. All must be given out, and they may all go to one. Picking pockets is the one that gets "
     "bards hanged.";
 constexpr FormTemplate kBard{"BardAbilities", "Bard Abilities", kBardControls, kBardHelp};
 constexpr std::string_view kBountyHunterHelp =
-    "This level's points for the hunt. Type how many go to each of the four arts; Total shows what he has so far. All "
-    "must be given out, and no art takes more than half of them, so choose at least two. Silence and shadows serve "
+    "This level's points for the hunt. Type how many go to each of the four arts; Total shows what he has with them. "
+    "All must be given out, and no art takes more than half of them, so choose at least two. Silence and shadows serve "
     "every night, traps only some.";
 constexpr FormTemplate kBountyHunter{"BountyHunterAbilities", "Bounty Hunter Abilities", kBountyHunterControls,
                                      kBountyHunterHelp};
@@ -89,6 +95,12 @@ constexpr FormTemplate kBountyHunter{"BountyHunterAbilities", "Bounty Hunter Abi
 const FormTemplate& TemplateOf(Allotment allotment) {
   if (allotment == Allotment::Bard) return kBard;
   return allotment == Allotment::BountyHunter ? kBountyHunter : kThief;
+}
+
+std::span<const std::string_view> LabelsOf(Allotment allotment) {
+  if (allotment == Allotment::Bard) return kBardLabels;
+  if (allotment == Allotment::BountyHunter) return kBountyHunterLabels;
+  return kThiefLabels;
 }
 
 ThiefAbility& AbilityScores(CharacterSheet& sheet, int ability) {
@@ -129,6 +141,27 @@ void ShowAllotment(Game& game, Form& form, Allotment allotment) {
     form.SetNumber(kFirstTotal + place, AbilityScores(game.sheet, abilities[i])[kLevelSum]);
     form.SetNumber(kFirstEntry + place, 0);
   }
+}
+
+std::vector<std::int64_t> Entries(const Form& form, std::size_t count) {
+  std::vector<std::int64_t> entries;
+  for (std::size_t i = 0; i < count; ++i) entries.push_back(form.Number(kFirstEntry + static_cast<int>(i)));
+  return entries;
+}
+
+/// What the figures as they stand make of the totals, what is left, and what is wrong with them.
+void ShowEntries(Game& game, Form& form, Allotment allotment) {
+  const auto abilities = AllottedAbilities(allotment);
+  const auto entries = Entries(form, abilities.size());
+  for (std::size_t i = 0; i < abilities.size(); ++i) {
+    form.SetNumber(kFirstTotal + static_cast<int>(i), AbilityScores(game.sheet, abilities[i])[kLevelSum] + entries[i]);
+  }
+  form.SetText(kPointsText, Format("You have %i points left to spend", game.run.ThiefPointsToSpend - SumOf(entries)));
+  std::vector<std::int64_t> typed;  // below 0 too
+  for (std::size_t i = 0; i < abilities.size(); ++i) {
+    typed.push_back(ReadNumberPrefix(form.Text(kFirstEntry + static_cast<int>(i))));
+  }
+  form.SetText(kRefusal, AllotmentRefusal(allotment, game.run.ThiefPointsToSpend, typed));
 }
 
 }  // namespace
@@ -174,6 +207,19 @@ std::size_t AllotmentSlot(const CharacterSheet& sheet, Allotment allotment, int 
   return static_cast<std::size_t>(std::clamp(level, 0, kHighestLevel));
 }
 
+std::string AllotmentRefusal(Allotment allotment, int points, std::span<const std::int64_t> entries) {
+  const std::int64_t limit = EntryLimit(allotment, points);
+  const auto labels = LabelsOf(allotment);
+  for (std::size_t i = 0; i < std::min(entries.size(), labels.size()); ++i) {
+    const std::string name = WithoutMnemonic(labels[i]);
+    if (entries[i] < 0) return Format("%s: points can not be taken away, so this counts as none.", name);
+    if (entries[i] > limit) return Format("%s: %i points are too many, it takes %i at most.", name, entries[i], limit);
+  }
+  const std::int64_t over = SumOf(entries) - points;
+  if (over > 0) return Format("%i point%s too many.", over, over == 1 ? " is" : "s are");
+  return {};
+}
+
 bool PlaceThiefPoints(Game& game, Allotment allotment, int classRow, std::span<const std::int64_t> entries) {
   const auto abilities = AllottedAbilities(allotment);
   const std::int64_t limit = EntryLimit(allotment, game.run.ThiefPointsToSpend);
@@ -195,16 +241,14 @@ void RunAllotment(Game& game, int classRow) {
   for (const int ability : abilities) SumAbility(AbilityScores(game.sheet, ability));
   Form form(TemplateOf(allotment));
   form.onOpened = [&] { ShowAllotment(game, form, allotment); };
+  form.onEdit = [&](int) { ShowEntries(game, form, allotment); };
   form.onCommand = [&](int id) {
     if (id == kAbort) {
       game.run.CurrentStep = 1;
       return form.Close();
     }
-    std::vector<std::int64_t> entries;
-    for (std::size_t i = 0; i < abilities.size(); ++i)
-      entries.push_back(form.Number(kFirstEntry + static_cast<int>(i)));
-    if (PlaceThiefPoints(game, allotment, classRow, entries)) return form.Close();
-    form.SetText(kPointsText, Format("You have %i points left to spend", game.run.ThiefPointsToSpend - SumOf(entries)));
+    if (PlaceThiefPoints(game, allotment, classRow, Entries(form, abilities.size()))) return form.Close();
+    ShowEntries(game, form, allotment);
   };
   game.platform.RunForm(form);
 }

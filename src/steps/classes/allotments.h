@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <span>
+#include <string>
 
 #include "store/game.h"
 
@@ -31,6 +32,10 @@ std::span<const int> AllottedAbilities(Allotment allotment);
 /// The slot that the points of a class row are placed in: the level in the allotment's own class. Other thieves than
 /// the plain one use his level, and their own where they hold none of his.
 std::size_t AllotmentSlot(const CharacterSheet& sheet, Allotment allotment, int classRow);
+
+/// Which of the entries can not stand, and why; whether there are too many of them all. Empty while they can, though
+/// points may be left.
+std::string AllotmentRefusal(Allotment allotment, int points, std::span<const std::int64_t> entries);
 
 /// Places points, one entry for each ability of the allotment. Returns false, with nothing placed, if they do not add
 /// up to ThiefPointsToSpend or one is out of its limits.

@@ -52,7 +52,7 @@ constexpr ControlTemplate kEquipControls[] = {
     LabelAt(1, 0, "&Category"),
     ComboAt(1, 0, kCategories, 27),
     LabelAt(1, 1, "&Search"),
-    EditAt(1, 1, kSearch, 25, kSearchBytes),
+    SearchAt(1, 1, kSearch, kGoods, 25, kSearchBytes),
     LabelAt(2, 0, "&Equipment"),
     ListAt(3, 0, kGoods, kListWidth, kListLines, kListRows),
     LabelAt(2, 1, "Equipment &you own"),
@@ -69,7 +69,7 @@ constexpr ControlTemplate kEquipControls[] = {
     ResultAt(7, 3, kSilver, kCoinWidth),
     LabelAt(8, 2, "Copper"),
     ResultAt(8, 3, kCopper, kCoinWidth),
-    LabelAt(9, 2, "Weight"),
+    LabelAt(9, 2, "Weight, lb"),
     ResultAt(9, 3, kWeight, kCoinWidth),
     LabelWithId(11, 0, kPriceHead, "Price"),
     ResultAt(11, 0, kPrice, 12),
@@ -80,8 +80,9 @@ constexpr ControlTemplate kEquipControls[] = {
     ButtonAt(12, 2, kOk, "&OK", ButtonRole::Cancel),
 };
 constexpr std::string_view kEquipHelp =
-    "The shop, and the last step. Choose a category, or type a part of a name in Search, which looks through "
-    "everything; choose what you want, see its price and weight, and press Add. Change is made from greater coins by "
+    "The shop, and the last step. Choose a category, or type a part of a name in Search, which looks through all "
+    "categories and tells with each find which one it stands in; clear it to be back in yours. Choose what you want, "
+    "see its price and weight, and press Add. Change is made from greater coins by "
     "itself. Remove gives the whole price back, so nothing is lost by trying. Your own goods from the Custom Item "
     "Editor are sold beside the others.\n\n"
     "Buy in this order: the weapon he is proficient with, armor that his class lets him wear, a pack, food for a "
@@ -114,7 +115,11 @@ struct EquipPage {
   Form form;
   GoodList goods;
   GoodList owned;
+  int category = 0;  ///< that was chosen last
 };
+
+/// What the box of the categories shows while a search goes through all of them.
+constexpr std::string_view kAllCategories = "Found in all categories";
 
 /// The good behind the selected line of a list; null if none is selected.
 const EquipmentRecord* Selected(const Form& form, int list, const GoodList& goods) {
@@ -136,20 +141,33 @@ void ShowSelectedGood(Game& game, EquipPage& page) {
   ShowEquipmentRow(game, page.form);
 }
 
-/// Lists the goods that a search finds, the first of them selected, else those of the category.
-void FillEquipmentList(Game& game, EquipPage& page) {
-  const std::string_view search = TrimRight(page.form.Text(kSearch));
-  page.goods = search.empty() ? GoodsOfCategory(game, page.form.Selection(kCategories)) : GoodsHolding(game, search);
-  std::vector<std::string> names;
-  for (const EquipmentRecord* good : page.goods) names.emplace_back(good->Name.View());
-  page.form.SetItems(kGoods, std::move(names));
-  if (!search.empty()) page.form.Select(kGoods, 0);
-  ShowSelectedGood(game, page);
+/// The categories, and in a search of them all a last line that says so.
+void FillEquipmentCategories(EquipPage& page, bool isSearch) {
+  std::vector<std::string> categories(EquipmentCategories.begin(), EquipmentCategories.end());
+  if (isSearch) categories.emplace_back(kAllCategories);
+  page.form.SetItems(kCategories, std::move(categories));
+  page.form.Select(kCategories, isSearch ? static_cast<int>(EquipmentCategories.size()) : page.category);
 }
 
-void FillEquipmentCategories(Form& form) {
-  form.SetItems(kCategories, {EquipmentCategories.begin(), EquipmentCategories.end()});
-  form.Select(kCategories, 0);
+std::string FoundLine(const EquipmentRecord& good) {
+  const auto category = static_cast<std::size_t>(good.Category) - 1;
+  const std::string_view name = TrimRight(good.Name);
+  return category < EquipmentCategories.size() ? Format("%s (%s)", name, EquipmentCategories[category])
+                                               : std::string(name);
+}
+
+/// Lists the goods that a search finds, each with its category, else those of the category.
+void FillEquipmentList(Game& game, EquipPage& page) {
+  const std::string_view search = TrimRight(page.form.Text(kSearch));
+  const bool isSearch = !search.empty();
+  FillEquipmentCategories(page, isSearch);
+  page.goods = isSearch ? GoodsHolding(game, search) : GoodsOfCategory(game, page.category);
+  std::vector<std::string> lines;
+  for (const EquipmentRecord* good : page.goods) {
+    lines.push_back(isSearch ? FoundLine(*good) : std::string(good->Name.View()));
+  }
+  page.form.SetItems(kGoods, std::move(lines));
+  ShowSelectedGood(game, page);
 }
 
 /// Lists what is owned; a good that was selected and is still owned stays so.
@@ -196,13 +214,13 @@ void RunEquipPage(Game& game, const FormTemplate& pageTemplate, bool isFree) {
   EquipPage page(pageTemplate);
   page.form.onOpened = [&] {
     page.form.SetChecked(isFree ? kAddFree : kBuy, true);
-    FillEquipmentCategories(page.form);
     FillEquipmentList(game, page);
     FillOwnedEquipment(game, page);
     ShowPurse(game.sheet, page.form);
   };
   page.form.onSelect = [&](int id) {
-    if (id == kCategories) {
+    if (id == kCategories && page.form.SelectedText(kCategories) != kAllCategories) {
+      page.category = page.form.Selection(kCategories);
       page.form.SetText(kSearch, "");
       FillEquipmentList(game, page);
     }

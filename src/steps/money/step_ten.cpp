@@ -22,7 +22,7 @@ enum : int {
   kRollAge = 6078
 };
 
-constexpr int kNumberWidth = 10;
+constexpr int kNumberWidth = 8;
 
 /// The race whose training takes no years: its age is as it is, and the button does nothing.
 
@@ -33,9 +33,11 @@ constexpr ControlTemplate kStepTenControls[] = {
     ButtonAt(2, 0, kRollAge, "&Class Adjusted Age"),
     LabelAt(2, 1, "Age:"),
     ResultAt(2, 2, kAge, kNumberWidth),
+    LabelAt(2, 2, "years"),
     ButtonAt(3, 0, kRollMoney, "Starting &Money"),
     LabelAt(3, 1, "Money:"),
     ResultAt(3, 2, kMoney, kNumberWidth),
+    LabelAt(3, 2, "gp"),
     HeadingAt(4, 0, "Money Special", 3),
     TextAt(5, 0, kMoneyText, "", 58, 2, 1, 3),
     ResultAt(6, 0, kNext, 40),

@@ -56,6 +56,7 @@ constexpr int kOk = 1;
 constexpr int kAbort = 2;
 constexpr int kMinorLeft = 211;
 constexpr int kMajorLeft = 212;
+constexpr int kNext = 213;
 constexpr int kRolls = 3000;
 constexpr int kMinorBox = 3022;
 constexpr int kMajorBox = 3023;
@@ -70,13 +71,19 @@ constexpr int kRemoveMajor = 4015;
 constexpr int kBoxWidth = 38;
 constexpr int kListLines = 4;
 
+/// Enter at a box adds what is chosen there.
+constexpr ControlTemplate EnterAdds(ControlTemplate box, int button) {
+  box.EnterPresses = button;
+  return box;
+}
+
 constexpr ControlTemplate kCherryPickControls[] = {
     TitleAt(0, 0, "Step 7: Quirks and Flaws", 3),
     LabelAt(1, 0, "M&inor Picking Box"),
     LabelAt(1, 1, "Ma&jor Picking Box"),
     LabelAt(1, 2, "&Quirks and Flaws you have"),
-    ComboAt(2, 0, kMinorBox, kBoxWidth),
-    ComboAt(2, 1, kMajorBox, kBoxWidth),
+    EnterAdds(ComboAt(2, 0, kMinorBox, kBoxWidth), kAddMinor),
+    EnterAdds(ComboAt(2, 1, kMajorBox, kBoxWidth), kAddMajor),
     ListAt(2, 2, kHeldQuirksList, kBoxWidth, kListLines + 4, 5),
     ButtonAt(3, 0, kAddMinor, "Add &Minor"),
     ButtonAt(3, 0, kRemoveMinor, "Re&move Minor"),
@@ -100,6 +107,7 @@ constexpr ControlTemplate kCherryPickControls[] = {
     ButtonAt(8, 0, kRoll, "Ro&ll"),
     ButtonAt(9, 0, kOk, "OK", ButtonRole::Default),
     ButtonAt(9, 0, kAbort, "&Abort", ButtonRole::Cancel),
+    ResultAt(9, 1, kNext, kBoxWidth),
 };
 constexpr std::string_view kCherryPickHelp =
     "Quirks and flaws are what is wrong with him, and they are paid for. On this page you may pick: at most two minor "
@@ -111,13 +119,32 @@ constexpr std::string_view kCherryPickHelp =
     "does to the class that you have in mind. OK goes on, with none if you like.";
 constexpr FormTemplate kCherryPick{"CherryPick", kQuirksCaption, kCherryPickControls, kCherryPickHelp};
 
-/// New items for a box or list; what was selected stays so if it is still there.
+/// New items for a box or list; what was selected stays so if it is still there. In a box the one in its place is
+/// selected otherwise.
 void Refill(Form& form, int id, std::vector<std::string> items) {
+  const bool isBox = id == kMinorBox || id == kMajorBox;
+  const int place = form.Selection(id);
   const std::string selected = form.SelectedText(id);
   form.SetItems(id, std::move(items));
   const auto& filled = form.Items(id);
   const auto found = std::ranges::find(filled, selected);
-  if (!selected.empty() && found != filled.end()) form.Select(id, static_cast<int>(found - filled.begin()));
+  const int last = static_cast<int>(filled.size()) - 1;
+  if (!selected.empty() && found != filled.end()) {
+    form.Select(id, static_cast<int>(found - filled.begin()));
+  } else if (isBox && place >= 0) {
+    form.Select(id, std::min(place, last));
+  }
+}
+
+/// Says what can be picked yet. Returns the control to go to for it.
+int ShowNext(const Game& game, Form& form) {
+  const bool hasMinor = game.sheet.MinorFlawPicksLeft != 0;
+  const bool hasMajor = game.sheet.MajorFlawPicksLeft != 0;
+  form.SetText(kNext, hasMinor && hasMajor ? "Next: a minor or major flaw, or OK"
+                      : hasMinor           ? "Next: a minor flaw, or OK"
+                      : hasMajor           ? "Next: a major flaw, or OK"
+                                           : "Next: OK");
+  return hasMinor ? kMinorBox : hasMajor ? kMajorBox : kOk;
 }
 
 void ShowPicks(Game& game, Form& form) {
@@ -193,6 +220,7 @@ void RunCherryPick(Game& game) {
   form.onOpened = [&] {
     ClearQuirkPicks(game);
     ShowPicks(game, form);
+    ShowNext(game, form);  // the number of rolls has the focus first
   };
   form.onCommand = [&](int id) {
     rolls = static_cast<int>(form.Number(kRolls));
@@ -203,7 +231,7 @@ void RunCherryPick(Game& game) {
       leave = AskLeaveByOk(game, rolls);
     } else if (id != kAbort) {
       if (ChangePick(game, form, id)) ShowPicks(game, form);
-      return;
+      return form.Focus(ShowNext(game, form));
     }
     form.Close();
   };

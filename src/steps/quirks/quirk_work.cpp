@@ -106,6 +106,20 @@ int PendingQuirkRolls(const QuirkWork& work) {
   return static_cast<int>(std::ranges::count_if(work.Tables, [](auto table) { return !IsStartTable(table); }));
 }
 
+int OwedEntry(const QuirkWork& work, int place) {
+  for (int entry = 0; IsEntry(work, entry); ++entry) {
+    if (!IsStartTable(work.Tables[static_cast<std::size_t>(entry)]) && place-- == 0) return entry;
+  }
+  return -1;
+}
+
+int EntryToRoll(const Game& game, const QuirkWork& work, int entry) {
+  const bool isLeft = game.run.QuirkRollsLeft > 0;
+  if (IsEntry(work, entry) && (isLeft || !IsStartTable(work.Tables[static_cast<std::size_t>(entry)]))) return entry;
+  const int owed = OwedEntry(work, 0);
+  return owed >= 0 ? owed : isLeft && !work.Tables.empty() ? 0 : -1;
+}
+
 void OweQuirkRolls(QuirkWork& work, std::string_view table, int rolls) {
   if (!table.empty()) work.Tables.insert(work.Tables.end(), static_cast<std::size_t>(rolls), table);
 }
@@ -124,12 +138,9 @@ int RollQuirkWork(Game& game, QuirkWork& work, int entry) {
 }
 
 std::string NextQuirkRoll(const Game& game, const QuirkWork& work, int entry) {
-  const int pending = PendingQuirkRolls(work);
-  if (game.run.QuirkRollsLeft <= 0 && pending == 0) return "Nothing is left to roll: go on with OK.";
-  if (!IsEntry(work, entry)) return "Choose a table and roll.";
-  const std::string_view table = work.Tables[static_cast<std::size_t>(entry)];
-  if (!IsStartTable(table) || game.run.QuirkRollsLeft > 0) return Format("Roll on %s", table);
-  return Format("No 6A roll is left: choose %s.", pending == 1 ? "the other table" : "one of the other tables");
+  entry = EntryToRoll(game, work, entry);
+  if (entry < 0) return "Nothing is left to roll: go on with OK.";
+  return Format("Roll on %s", work.Tables[static_cast<std::size_t>(entry)]);
 }
 
 void TakeQuirkResult(Game& game, QuirkWork& work, int row) {

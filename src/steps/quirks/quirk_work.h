@@ -32,6 +32,12 @@ bool IsStartTable(std::string_view table);
 /// Rolls owed on tables that are not 6A tables.
 int PendingQuirkRolls(const QuirkWork& work);
 
+/// The entry of the table of this place (from 0) among those that are no 6A tables; -1 if there are not so many.
+int OwedEntry(const QuirkWork& work, int place);
+/// The entry that a player means who has this one selected: itself if it can be rolled on, else the first that is owed
+/// a roll, else the first one; -1 if nothing is left to roll.
+int EntryToRoll(const Game& game, const QuirkWork& work, int entry);
+
 /// Adds rolls on a table. Nothing is owed on a table without a name: a row that leads nowhere.
 void OweQuirkRolls(QuirkWork& work, std::string_view table, int rolls = 1);
 
@@ -40,7 +46,7 @@ void OweQuirkRolls(QuirkWork& work, std::string_view table, int rolls = 1);
 /// Returns the entry to be selected next.
 int RollQuirkWork(Game& game, QuirkWork& work, int entry);
 
-/// What a player does next, in one sentence; `entry` is the selected one.
+/// What a player does next, in one sentence; `entry` is the selected one (see EntryToRoll).
 std::string NextQuirkRoll(const Game& game, const QuirkWork& work, int entry);
 
 /// A row comes up: it is held and paid, or owes further rolls (see kLastOwingRoll).

@@ -25,11 +25,17 @@ constexpr int kRoll = 4001;
 
 constexpr int kTableWidth = 48;
 
+/// Enter at a table rolls on it.
+constexpr ControlTemplate EnterRolls(ControlTemplate tables) {
+  tables.EnterPresses = kRoll;
+  return tables;
+}
+
 constexpr ControlTemplate kQuirksandFlawsControls[] = {
     TitleAt(0, 0, "Step 7: Quirks and Flaws", 2),
     LabelAt(1, 1, "&Table"),
     ButtonAt(2, 0, kRoll, "&Roll for Quirk or Flaw ->"),
-    ComboAt(2, 1, kTable, kTableWidth),
+    EnterRolls(ComboAt(2, 1, kTable, kTableWidth)),
     LabelAt(3, 0, "Next:"),
     ResultAt(3, 1, kNext, kTableWidth + 10),
     LabelAt(4, 0, "6A rolls left:"),
@@ -42,27 +48,38 @@ constexpr ControlTemplate kQuirksandFlawsControls[] = {
     ResultAt(7, 1, kPotentialBP, 8),
     LabelAt(8, 0, "Tables still &owed a roll"),
     LabelAt(8, 1, "&Quirks and Flaws you have"),
-    ListAt(9, 0, kOwed, kTableWidth, 8),
+    EnterRolls(ListAt(9, 0, kOwed, kTableWidth, 8)),
     ListAt(9, 1, kHeldQuirksList, kTableWidth + 10, 8),
     ButtonAt(10, 0, kOk, "OK", ButtonRole::Default),
     ButtonAt(10, 0, kAbort, "&Abort", ButtonRole::Cancel),
 };
 constexpr std::string_view kQuirksHelp =
-    "Here the dice say what is wrong with him. The box lists every table that is owed a roll: choose one and press "
-    "Roll; Next tells what that will be. A 6A table is where each of your rolls begins; pick that of the codex, or of "
+    "Here the dice say what is wrong with him. The box and the list below hold the tables that are owed a roll: choose "
+    "one or none and press Roll; Next tells what that will be. A 6A table is where each of your rolls begins; pick "
+    "that of the codex, or of "
     "an almanac, which then binds him to a class of that almanac. Many rows send you on to a lower table, and that "
-    "roll must be made too.\n\n"
+    "roll must be made.\n\n"
     "Each result asks whether you keep it. To refuse one costs 1 BP, paid at once; what you keep pays its own BP, "
     "shown as Potential BPs and added when the step ends. The same flaw can come twice and pay twice. Some rows the "
     "referee decides, at the end of the run.\n\n"
-    "OK goes on when no roll is owed any more.";
+    "OK goes on when none is owed any more.";
 constexpr FormTemplate kQuirksandFlaws{"QuirksandFlaws", kQuirksCaption, kQuirksandFlawsControls, kQuirksHelp};
 constexpr FormTemplate kQuirksandFlawsMage{"QuirksandFlawsMage", kQuirksCaption, kQuirksandFlawsControls, kQuirksHelp};
 
-void ShowNext(const Game& game, const QuirkWork& work, Form& form) {
-  form.SetText(kNext, NextQuirkRoll(game, work, form.Selection(kTable)));
+int EntryToRoll(const Game& game, const QuirkWork& work, const Form& form) {
+  return EntryToRoll(game, work, form.Selection(kTable));
 }
 
+/// Tells what Roll will do; a table that is owed stands chosen in its list too.
+void ShowNext(const Game& game, const QuirkWork& work, Form& form) {
+  form.SetText(kNext, NextQuirkRoll(game, work, form.Selection(kTable)));
+  const int entry = EntryToRoll(game, work, form);
+  int place = 0;
+  while (entry >= 0 && OwedEntry(work, place) >= 0 && OwedEntry(work, place) != entry) ++place;
+  form.Select(kOwed, entry < 0 ? -1 : place);
+}
+
+/// Shows all, and goes to what comes next.
 void ShowWork(const Game& game, const QuirkWork& work, int selected, Form& form) {
   form.SetItems(kTable, {work.Tables.begin(), work.Tables.end()});
   form.Select(kTable, selected);
@@ -77,6 +94,7 @@ void ShowWork(const Game& game, const QuirkWork& work, int selected, Form& form)
   form.SetNumber(kPotentialBP, PotentialQuirkBP(game));
   ListHeldQuirks(game, form);
   ShowNext(game, work, form);
+  form.Focus(EntryToRoll(game, work, form) < 0 ? kOk : kRoll);
 }
 
 /// OK leaves only when nothing is owed; else it says what is.
@@ -84,6 +102,7 @@ void TryToLeave(Game& game, const QuirkWork& work, Form& form) {
   const int rolls = game.run.QuirkRollsLeft;
   const int others = PendingQuirkRolls(work);
   if (rolls + others > 0) {
+    form.Focus(kRoll);
     game.platform.ShowMessage(Format("You need to make %i more 6A rolls and %i more other rolls", rolls, others),
                               kQuirksCaption);
     return;
@@ -100,11 +119,14 @@ void RunQuirkForm(Game& game, const FormTemplate& formTemplate, std::span<const 
     for (const std::string_view table : owedTables) OweQuirkRolls(work, table);
     ShowWork(game, work, 0, form);
   };
-  form.onSelect = [&](int) { ShowNext(game, work, form); };
+  form.onSelect = [&](int id) {
+    if (id == kOwed) form.Select(kTable, OwedEntry(work, form.Selection(kOwed)));
+    ShowNext(game, work, form);
+  };
   form.onCommand = [&](int id) {
     if (id == kRoll) {
-      const int selected = RollQuirkWork(game, work, form.Selection(kTable));
-      ShowWork(game, work, selected, form);
+      const int entry = EntryToRoll(game, work, form);
+      ShowWork(game, work, RollQuirkWork(game, work, entry < 0 ? form.Selection(kTable) : entry), form);
     } else if (id == kOk) {
       TryToLeave(game, work, form);
     } else if (id == kAbort && game.run.CurrentStep == 7) {  // elsewhere what is owed must be rolled

@@ -43,13 +43,13 @@ constexpr int kBudgets = 8;
 
 constexpr int kColumns = 4;
 constexpr int kListTop = 5;
-constexpr int kBudgetTop = kListTop + 8;
+constexpr int kBudgetTop = kListTop + 7;
 constexpr int kListRows = kBudgetTop + kBudgets - kListTop;
 constexpr int kListLines = 17;
 constexpr int kButtonRow = kListTop + kListRows;
 
 constexpr auto kSkillsControls = [] {
-  std::array<ControlTemplate, 44> controls{};
+  std::array<ControlTemplate, 45> controls{};
   std::size_t next = 0;
   const auto add = [&](ControlTemplate control, int columnSpan = 1) {
     control.ColumnSpan = columnSpan;
@@ -58,27 +58,28 @@ constexpr auto kSkillsControls = [] {
   add(TitleAt(0, 0, "Step 12: Skills, Talents and Proficiencies"), kColumns);
   for (int ability = 0; ability < kAbilityCount; ++ability) add(ResultAt(1, 0, kFirstAbility + ability, 11), kColumns);
 
-  add(LabelAt(3, 0, "&Category"));
-  add(ComboAt(3, 0, kCategory, 23));
-  add(LabelAt(4, 0, "&Search"));
-  add(EditAt(4, 0, kSearch, 28, 60));
+  add(LabelAt(2, 0, "&Category"));
+  add(ComboAt(2, 0, kCategory, 23));
+  add(LabelAt(3, 0, "&Search"));
+  add(SearchAt(3, 0, kSearch, kAvailable, 28, 60));
+  add(LabelAt(4, 0, "Skills to &learn"));
   add(ListAt(kListTop, 0, kAvailable, 44, kListLines, kListRows));
 
-  add(ResultAt(4, 1, SkillsControl::Selected, 38), 2);
-  add(LabelAt(kListTop, 1, "Cost"));
-  add(ResultAt(kListTop, 2, SkillsControl::Price, 24));
-  add(LabelAt(kListTop + 1, 1, "Abilities"));
-  add(ResultAt(kListTop + 1, 2, SkillsControl::Abilities, 24));
-  add(LabelAt(kListTop + 2, 1, "Course Die"));
-  add(ResultAt(kListTop + 2, 2, SkillsControl::Die, 24));
-  add(LabelAt(kListTop + 3, 1, "Page"));
-  add(ResultAt(kListTop + 3, 2, SkillsControl::Page, 24));
-  ControlTemplate head = LabelAt(kListTop + 4, 1, "Prerequisite Skills");
+  add(ResultAt(3, 1, SkillsControl::Selected, 38), 2);
+  add(LabelAt(4, 1, "Cost"));
+  add(ResultAt(4, 2, SkillsControl::Price, 24));
+  add(LabelAt(kListTop, 1, "Abilities"));
+  add(ResultAt(kListTop, 2, SkillsControl::Abilities, 24));
+  add(LabelAt(kListTop + 1, 1, "Course Die"));
+  add(ResultAt(kListTop + 1, 2, SkillsControl::Die, 24));
+  add(LabelAt(kListTop + 2, 1, "Page"));
+  add(ResultAt(kListTop + 2, 2, SkillsControl::Page, 24));
+  ControlTemplate head = LabelAt(kListTop + 3, 1, "Prerequisite Skills");
   head.Id = SkillsControl::LinksHead;
   add(head, 2);
-  add(TextAt(kListTop + 5, 1, SkillsControl::Links, {}, 38, 3), 2);
-  add(TextAt(kListTop + 6, 1, SkillsControl::Refusal, {}, 38, 3), 2);
-  add(HeadingAt(kListTop + 7, 1, "Building Points"), 2);
+  add(TextAt(kListTop + 4, 1, SkillsControl::Links, {}, 38, 3), 2);
+  add(TextAt(kListTop + 5, 1, SkillsControl::Refusal, {}, 38, 3), 2);
+  add(HeadingAt(kListTop + 6, 1, "Building Points"), 2);
   for (int budget = 0; budget < kBudgets; ++budget) {
     add(ResultAt(kBudgetTop + budget, 1, kFirstBudget + budget, 34), 2);
   }
@@ -306,9 +307,7 @@ void RunSkills(Game& game) {
     if (id == kCategory) refill();
     if (id == kAvailable) ShowSkillCost(game, page.form, page.SelectedName());
   };
-  page.form.onEdit = [&](int id) {
-    if (id == kSearch) refill();
-  };
+  page.form.onEdit = [&](int) { FillSkillList(game, page); };
   page.form.onCommand = [&](int id) {
     const SkillTarget selectedOwned = FindOwnedSkill(game.sheet, page.SelectedOwned());
     RunCommand(game, page, id);

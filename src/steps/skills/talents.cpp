@@ -31,7 +31,7 @@ constexpr int kSearchBytes = 49;
 constexpr ControlTemplate kTalentsControls[] = {
     TitleAt(0, 0, "Talents", 2),
     LabelAt(1, 0, "&Search"),
-    EditAt(1, 0, kSearch, 28, kSearchBytes),
+    SearchAt(1, 0, kSearch, kOffered, 28, kSearchBytes),
     LabelWithIdAt(1, 1, kBuildingPointsHead, "BP's:"),
     ResultAt(1, 1, kBuildingPoints, 8),
     LabelAt(2, 0, "Talents you may &take"),
@@ -113,10 +113,7 @@ void RunTalents(Game& game) {
     page.shown = list;
     ShowTalentCost(game, page);
   };
-  form.onEdit = [&](int) {
-    FillOffered(game, page);
-    ShowTalentCost(game, page);
-  };
+  form.onEdit = [&](int) { FillOffered(game, page); };
   form.onCommand = [&](int id) {
     if (id == kClose) return form.Close();
     const TalentPlace place = SelectedIn(page, id == kRemove ? kHeld : kOffered);

@@ -46,7 +46,7 @@ constexpr ControlTemplate kWeaponProfControls[] = {
     RadioAt(1, 0, kClassMode, "Cla&ss"),
     RadioAt(1, 0, kAllMode, "&All"),
     LabelAt(1, 0, "Searc&h"),
-    EditAt(1, 0, kSearch, 18, kSearchBytes),
+    SearchAt(1, 0, kSearch, kOffered, 18, kSearchBytes),
     LabelAt(1, 1, "Slots left"),
     ResultAt(1, 1, kSlotsLeft, 6),
     LabelAt(1, 1, "BP's:"),
@@ -213,10 +213,7 @@ void RunWeaponProf(Game& game) {
     }
     ShowSelected(game, page);
   };
-  form.onEdit = [&](int) {
-    FillOffered(game, page);
-    ShowSelected(game, page);
-  };
+  form.onEdit = [&](int) { FillOffered(game, page); };
   form.onCommand = [&](int id) {
     if (id == kClose) {
       if (MayLeaveProficiencies(game)) return form.Close();

@@ -29,11 +29,16 @@ bool IsFree(const Game& game, int row) {
   return row >= 0 && game.sheet.SpellsKnown[static_cast<std::size_t>(row)] == kUnknownSpell;
 }
 
+void Deal(Game& game, int row) {
+  Mark(game, row) = 1;
+  game.run.DealtSpells[static_cast<std::size_t>(row)] = true;
+}
+
 /// Gives a spell by name if it is unknown and not barred; a name without a row is lost.
 bool Grant(Game& game, std::string_view name) {
   const int row = FindSpell(game.SpellTable, name);
   if (!IsFree(game, row)) return false;
-  Mark(game, row) = 1;
+  Deal(game, row);
   return true;
 }
 
@@ -77,7 +82,7 @@ bool DealSpellOf(Game& game, int level, std::string_view school) {
   }
   if (rows.empty()) return false;
   const int roll = RollDice(game, static_cast<int>(rows.size()), 1);
-  Mark(game, rows[static_cast<std::size_t>(std::clamp(roll, 1, static_cast<int>(rows.size())) - 1)]) = 1;
+  Deal(game, rows[static_cast<std::size_t>(std::clamp(roll, 1, static_cast<int>(rows.size())) - 1)]);
   return true;
 }
 
@@ -233,7 +238,7 @@ void GrantReadingAndWriting(Game& game) {
     if (name == "Write" && Contains(game.sheet.ClassName, "Painted Mage")) continue;
     // Every mage holds them, whatever a mentor or a school bars.
     const int row = FindSpell(game.SpellTable, name);
-    if (row >= 0 && Mark(game, row) <= kUnknownSpell) Mark(game, row) = 1;
+    if (row >= 0 && Mark(game, row) <= kUnknownSpell) Deal(game, row);
   }
 }
 
@@ -248,7 +253,9 @@ void LearnSpell(Game& game, std::size_t row) {
 }
 
 void ForgetSpell(Game& game, std::size_t row) {
-  if (row < kSpellRows) game.sheet.SpellsKnown[row] = kUnknownSpell;
+  if (row >= kSpellRows) return;
+  game.sheet.SpellsKnown[row] = kUnknownSpell;
+  game.run.DealtSpells[row] = false;
 }
 
 int KnownCantrips(const Game& game) {

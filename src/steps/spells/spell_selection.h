@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <vector>
 
@@ -26,7 +27,13 @@ void RunFreeSpellSellection(Game& game, FreeSpellKind kind);
 /// latest.
 int CantripsToChoose(const Game& game);
 
-/// Rows of a spell list (one of SpellCategories): those that can be learned, or those that are known.
+/// How many of them are still to be chosen, as far as there are any left to choose.
+int CantripsLeft(const Game& game);
+/// Learns spells by their rows, in their order, until the mage has all the cantrips that he may choose.
+void LearnCantrips(Game& game, std::span<const std::size_t> rows);
+
+/// Rows of a spell list (one of SpellCategories): those that can be learned, or those that are known; the known ones
+/// of all lists for the last choice of its box.
 std::vector<std::size_t> SpellsToLearn(const Game& game, std::string_view category);
 std::vector<std::size_t> SpellsHeld(const Game& game, std::string_view category);
 

@@ -11,6 +11,7 @@ namespace {
 
 constexpr int kOk = 1;
 constexpr int kPointsText = 150;
+constexpr int kRefusal = 152;
 constexpr int kFirstTotal = 10;
 constexpr int kFirstEntry = 3000;
 
@@ -48,6 +49,17 @@ TEST_F(AllotmentTest, AThiefPlacesExactlyHisPointsWithinTheLimit) {
     EXPECT_EQ(form.Text(kPointsText), "You have 65 points to spend");
     EXPECT_EQ(form.Text(kFirstTotal), "22") << "base and all levels so far";
     EXPECT_EQ(form.Text(kFirstTotal + 7), "60");
+    for (const auto& [typed, total, left, refusal] :
+         {std::tuple{"8", "30", "57", ""},
+          {"31", "53", "34", "Pick Pockets: 31 points are too many, it takes 30 at most."},
+          {"-4", "22", "65", "Pick Pockets: points can not be taken away, so this counts as none."},
+          {"18446744073709551616", "1000021", "-999934", "it takes 30 at most."}}) {
+      form.Type(kFirstEntry, typed);
+      EXPECT_EQ(form.Text(kFirstEntry), typed);
+      EXPECT_EQ(form.Text(kFirstTotal), total);
+      EXPECT_EQ(form.Text(kPointsText), Format("You have %s points left to spend", left));
+      EXPECT_TRUE(form.Text(kRefusal).ends_with(refusal) && (*refusal || form.Text(kRefusal).empty()));
+    }
     Enter(form, {30, 30});
     EXPECT_EQ(form.Text(kPointsText), "You have 5 points left to spend");
     Enter(form, {31, 30, 4});
@@ -99,6 +111,8 @@ TEST_F(AllotmentTest, ABardMayPlaceAllInOneAbilityAndABountyHunterHalf) {
     EXPECT_EQ(form.Text(kFirstTotal + 2), "10");
     Enter(form, {8, 7, 0, 0});
     EXPECT_EQ(form.Text(kPointsText), "You have 0 points left to spend");
+    Enter(form, {7, 7, 2});
+    EXPECT_EQ(form.Text(kRefusal), "1 point is too many.");
     Enter(form, {1, 0, 7, 7});
   });
   RunAllotment(*game, kBountyHunter);

@@ -177,8 +177,15 @@ TEST_F(EquipTest, TheDialogShowsPricesAndPurse) {
     for (int i = 0; i < 3; ++i) form.Press(kRemove);  // the selection stays with the good
     EXPECT_TRUE(form.Items(kOwned).empty());
     form.Type(kSearch, "SWORD");
-    EXPECT_EQ(form.Items(kGoods), (std::vector<std::string>{"Long sword", "Grandfather's sword"}));
+    EXPECT_EQ(form.Items(kGoods), (std::vector<std::string>{"Long sword (Weapons)", "Grandfather's sword (Weapons)"}));
     EXPECT_EQ(form.Text(90), "15 gp") << "the first is at hand, of all categories";
+    EXPECT_EQ(form.SelectedText(kCategories), "Found in all categories");
+    form.Choose(kCategories, 21);
+    EXPECT_EQ(form.Text(kSearch), "SWORD");
+    form.Type(kSearch, "");
+    EXPECT_EQ(form.Items(kGoods), (std::vector<std::string>{"Rope, silk", "Rope", "Nail"})) << "back in the category";
+    EXPECT_EQ(form.Selection(kCategories), kTools - 1);
+    EXPECT_EQ(form.Selection(kGoods), -1);
     form.Type(kSearch, "sword of doom");
     EXPECT_TRUE(form.Items(kGoods).empty());
     EXPECT_EQ(form.Text(90), "");

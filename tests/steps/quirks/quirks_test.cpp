@@ -184,9 +184,8 @@ TEST_F(QuirksTest, TheDialogShowsWhatIsOwedAndIsLeftOnlyWhenNothingIs) {
     form.Press(kOk);
     EXPECT_EQ(platform.messages.back(), "Quirks and Flaws: You need to make 0 more 6A rolls and 1 more other rolls");
     EXPECT_EQ(form.Items(kOwed), std::vector<std::string>{"ADC Animal Antipathy Table"});
-    EXPECT_EQ(form.Text(213), "No 6A roll is left: choose the other table.");
-    ChooseText(form, kTable, "ADC Animal Antipathy Table");
-    EXPECT_EQ(form.Text(213), "Roll on ADC Animal Antipathy Table");
+    EXPECT_EQ(form.SelectedText(kTable), kCodex6A);
+    EXPECT_EQ(form.Text(213), "Roll on ADC Animal Antipathy Table") << "no 6A roll is left";
     form.Press(kRollForQuirk);
     EXPECT_EQ(form.Items(kHeldQuirksList).size(), 1U);
     EXPECT_EQ(form.Text(216), "7");
@@ -194,6 +193,36 @@ TEST_F(QuirksTest, TheDialogShowsWhatIsOwedAndIsLeftOnlyWhenNothingIs) {
     form.Press(kOk);
   });
   EXPECT_EQ(game->run.CurrentStep, 8);
+}
+
+TEST_F(QuirksTest, RollRollsOnTheTableChosenAmongThoseOwed) {
+  QuirkWork work = OpenQuirkWork(*game);
+  EXPECT_EQ(EntryToRoll(*game, work, 0), -1) << "nothing is left";
+  const int first = static_cast<int>(work.Tables.size());
+  OweQuirkRolls(work, kTable6B);
+  OweQuirkRolls(work, kTable6D);
+  EXPECT_EQ(EntryToRoll(*game, work, 0), first) << "no 6A roll is left";
+  EXPECT_EQ(EntryToRoll(*game, work, first + 1), first + 1);
+  game->run.QuirkRollsLeft = 1;
+  EXPECT_EQ(EntryToRoll(*game, work, 0), 0);
+  EXPECT_EQ(OwedEntry(work, 2), -1);
+
+  platform.AnswerOthers(Answer::Yes);
+  const std::string_view owed[] = {kTable6F, kTable6H};
+  platform.ExpectForm("QuirksandFlawsMage", [&](Form& form) {
+    EXPECT_EQ(form.SelectedText(kOwed), kTable6F) << "the next in the order";
+    form.Choose(kOwed, 1);
+    EXPECT_EQ(form.SelectedText(kTable), kTable6H);
+    form.Press(kRollForQuirk);
+    EXPECT_EQ(std::ranges::count(form.Items(kOwed), kTable6H), 0);
+    EXPECT_EQ(form.SelectedText(kOwed), kTable6F);
+    for (int rolls = 0; rolls < 100 && form.Text(213).starts_with("Roll on"); ++rolls) form.Press(kRollForQuirk);
+    EXPECT_TRUE(form.Items(kOwed).empty());
+    form.Press(kRollForQuirk);
+    EXPECT_GE(form.Selection(kTable), 0) << "nothing is left";
+    form.Press(kOk);
+  });
+  RunQuirksandFlawsMage(*game, owed);
 }
 
 TEST_F(QuirksTest, AFreeQuirkIsTakenFromTheTableChosen) {
@@ -248,6 +277,8 @@ TEST_F(QuirksTest, PicksAreLimitedAskBeforeALockInAndCountOnOk) {
     form.Press(kAddMinor);
     EXPECT_EQ(form.Items(kMinorList), (std::vector<std::string>{"Albino", hexwright}));
     EXPECT_EQ(std::ranges::count(form.Items(kMinorBox), "Albino"), 0);
+    EXPECT_GE(form.Selection(kMinorBox), 0) << "the next one stands in its place";
+    EXPECT_EQ(form.Text(213), "Next: a major flaw, or OK");
     ChooseText(form, kMinorBox, "Lisp");
     form.Press(kAddMinor);
     EXPECT_EQ(form.Items(kMinorList).size(), 2U) << "two minor picks at most";

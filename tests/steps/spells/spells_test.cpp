@@ -24,6 +24,8 @@ constexpr int kMasterList = 3021;
 constexpr int kOwnList = 3022;
 constexpr int kAdd = 4001;
 constexpr int kRemove = 4002;
+constexpr int kAddBelow = 4003;
+constexpr int kNext = 122;
 
 class SpellsTest : public testing::GameTest<> {
  protected:
@@ -173,6 +175,8 @@ TEST_F(SpellsTest, ReadingAndWritingFollowTheChoice) {
     form.Press(kAdd);
     EXPECT_FALSE(form.IsClosed()) << "nothing chosen";
     form.PressCloseBox();
+    EXPECT_EQ(form.Text(kNext), "1 spell not chosen; press Close again to leave it");
+    form.PressCloseBox();
   });
   FinishSpellList(*game);
   EXPECT_EQ(Mark("Read Magic"), 0) << "no dealing, but the free picks run";
@@ -183,19 +187,60 @@ TEST_F(SpellsTest, CantripsAreChosenUpToTheirNumber) {
   Mage("Magic-User", 12, 3);
   game->run.SpellListIndex = 2;
   Play("SpellSellection", RunSpellSellection, [&](Form& form) {
-    for (int i = 0; i < 3; ++i) {
-      form.Choose(kMasterList, 0);
-      form.Press(kAdd);
-    }
+    const auto isDealt = [](const std::string& line) { return line.ends_with("(dealt)"); };
+    EXPECT_EQ(std::ranges::count_if(form.Items(kOwnList), isDealt), 3) << "what the tables gave is not put away";
+    form.Press(kAdd);  // nothing chosen
+    form.Choose(kMasterList, 0);
+    for (int i = 0; i < 3; ++i) form.Press(kAdd);  // goes on to the next one
+    EXPECT_EQ(form.Text(kNext), "Next: Close");
+    EXPECT_EQ(form.Items(kOwnList).size(), 5U);
     EXPECT_EQ(form.Text(121), "You have 0 more slots for this spell level.");
     EXPECT_EQ(KnownCantrips(*game), 2);
     form.Choose(kOwnList, 0);
     form.Press(kRemove);
     EXPECT_EQ(form.Text(121), "You have 1 more slots for this spell level.");
     form.PressCloseBox();
+    EXPECT_EQ(form.Text(kNext), "1 cantrip not chosen; press Close again to leave it");
+    form.Press(kRemove);  // nothing chosen
+    EXPECT_TRUE(form.Text(kNext).starts_with("1 cantrip not"));
+    form.Choose(kOwnList, 0);
+    form.Press(kRemove);
+    EXPECT_EQ(form.Text(kNext), "Next: choose a cantrip and press Add") << "the warning is taken back";
+    form.PressCloseBox();
+    form.PressCloseBox();
   });
-  EXPECT_EQ(KnownCantrips(*game), 1);
+  EXPECT_EQ(KnownCantrips(*game), 0);
   for (const int mark : game->sheet.SpellsKnown) EXPECT_LE(mark, 14);
+}
+
+TEST_F(SpellsTest, ManyCantripsAreChosenInAFewPresses) {
+  Mage("Magic-User", 12, -1);
+  game->run.SpellListIndex = 29;
+  Play("SpellSellection", RunSpellSellection, [&](Form& form) {
+    form.PressCloseBox();
+    EXPECT_EQ(form.Text(kNext), "29 cantrips not chosen; press Close again to leave them");
+    form.Choose(kMasterList, 3);
+    const std::string above = form.Items(kMasterList)[2];
+    int presses = 0;
+    for (int group = 1; KnownCantrips(*game) < 29; ++group, presses += 2) {
+      form.Press(kAddBelow);
+      form.Choose(kMasterCombo, group);
+    }
+    EXPECT_LT(presses, 9);
+    EXPECT_EQ(KnownCantrips(*game), 29);
+    EXPECT_EQ(Mark(above), 0);
+    form.PressCloseBox();
+  });
+  game->run.SpellListIndex = 200;
+  Play("SpellSellection", RunSpellSellection, [&](Form& form) {
+    for (int group = 0; group < 8; ++group) {
+      form.Choose(kMasterCombo, group);
+      form.Press(kAddBelow);
+      EXPECT_EQ(form.Text(kNext), group < 7 ? "Next: choose from another group" : "Next: Close");
+    }
+    EXPECT_EQ(CantripsLeft(*game), 0) << "places that no cantrip is left for are not missed";
+    form.PressCloseBox();
+  });
 }
 
 TEST_F(SpellsTest, TheFirstBookHoldsTheKnownSpells) {
