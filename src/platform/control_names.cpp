@@ -118,6 +118,7 @@ std::size_t NamedControl(const Form& form, std::size_t label) {
   const std::size_t none = controls.size();
   const std::size_t right = Neighbour(form, label, false);
   if (right < none && CanBeUsed(controls[right].Template.Kind)) return right;
+  if (right < none && controls[right].Template.Kind == ControlKind::Text) return none;
   if (right < none && controls[right].Template.Kind == ControlKind::Result) {
     // What the character has may stand between a label and the field to type in.
     std::size_t field = right;

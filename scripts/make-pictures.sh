@@ -1,0 +1,44 @@
+#!/usr/bin/env bash
+# Builds the program and takes pictures of its windows, without a screen.
+#   scripts/make-pictures.sh            those of the handbook, into docs/screenshots
+#   scripts/make-pictures.sh FOLDER     every form on a screen of 1024 x 768, as it opens and in use, into FOLDER: light and
+#                                       dark, at the usual size and twice as fine; then sheets of nine, to be looked through
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+scripts/install-packages.sh g++ cmake ninja-build qt6-base-dev libqt6widgets6 fonts-liberation libgtest-dev libncurses-dev \
+  libxml2-dev libcairo2-dev libpango1.0-dev imagemagick
+build=${VELD_BUILD:-build/release}
+[ -n "${VELD_BUILD:-}" ] || scripts/configure.sh release
+cmake --build "$build" --target veld_pictures -- --quiet
+pictures=$PWD/$build/bin/veld_pictures
+screen=$(mktemp)
+trap 'rm -f "$screen"' EXIT
+
+# take SCALE FOLDER SCHEME WHAT: at scale 2 the screen has twice as many dots, and as much room as before.
+take() {
+  printf '{"screens":[{"name":"desk","x":0,"y":0,"width":%d,"height":%d,"logicalDpi":96,"logicalBaseDpi":96,"dpr":1}]}' \
+    $((1024 * $1)) $((768 * $1)) >"$screen"
+  mkdir -p "$2"
+  QT_QPA_PLATFORM=offscreen:configfile=$screen QT_SCALE_FACTOR=$1 QT_LOGGING_RULES='*.warning=false' \
+    timeout 300 "$pictures" "$2" "$3" "$4"
+}
+
+if [ $# -eq 0 ]; then
+  new=$(mktemp -d)
+  take 1 "$new" light handbook
+  for picture in "$new"/*.png; do
+    convert "$picture" -strip -colors 256 "PNG8:docs/screenshots/$(basename "$picture")"
+  done
+  rm -r "$new"
+  exit 0
+fi
+
+folder=$(realpath -m "$1")
+for scale in 1 2; do
+  for scheme in light dark; do
+    take $scale "$folder/$scheme-$scale" $scheme forms
+    montage -label %t "$folder/$scheme-$scale"/*.png -tile 3x3 -geometry "$((760 * scale))x$((560 * scale))>+8+8" -background '#777777' \
+      "$folder/$scheme-$scale-sheet-%02d.png"
+  done
+done
