@@ -67,6 +67,7 @@ void PageView::WritePage() {
   frame.setBottomMargin(pitch_);
   document()->rootFrame()->setFrameFormat(frame);
   at.endEditBlock();
+  moveCursor(QTextCursor::Start);  // the page is shown from there, and read out
   verticalScrollBar()->setSingleStep(pitch_);
 }
 

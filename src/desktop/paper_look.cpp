@@ -16,6 +16,7 @@ namespace veld {
 
 namespace {
 
+constexpr int kLowButton = 20;
 constexpr int kLeastMark = 13;  // the side of a check box where no font tells it
 
 bool Has(const QStyleOption* option, QStyle::StateFlag flag) {
@@ -162,7 +163,8 @@ class PaperLook : public QProxyStyle {
     const QRgb fill = isDown ? Colors().Pressed : isLit ? Colors().Wash : Colors().Button;
     const QRgb edge = !isEnabled ? Colors().FaintEdge : isDefault || hasFocus ? Colors().Ink : Colors().Edge;
     DrawBox(painter, option->rect, fill, edge, 3, isDefault && isEnabled ? 1.8 : 1);
-    if (hasFocus) DrawBox(painter, option->rect.adjusted(3, 3, -3, -3), fill, Colors().Ink, 2);
+    const int gap = option->rect.height() < kLowButton ? 2 : 3;  // a ring in a low button leaves its text free
+    if (hasFocus) DrawBox(painter, option->rect.adjusted(gap, gap, -gap, -gap), fill, Colors().Ink, 2);
   }
 
   static void DrawFocus(const QStyleOption* option, QPainter* painter) {

@@ -55,6 +55,7 @@ void Studio::TakeMain(const std::string& title, const std::vector<PageLine>& pag
 QPixmap Studio::FormPicture(Form& form, int focus) const {
   FormWindow window(form, style_, nullptr);
   window.ShowAt({});
+  QApplication::processEvents();
   if (focus != 0) form.Focus(focus);
   QApplication::processEvents();
   return window.grab();
