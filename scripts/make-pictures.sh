@@ -38,7 +38,10 @@ folder=$(realpath -m "$1")
 for scale in 1 2; do
   for scheme in light dark; do
     take $scale "$folder/$scheme-$scale" $scheme forms
-    montage -label %t "$folder/$scheme-$scale"/*.png -tile 3x3 -geometry "$((760 * scale))x$((560 * scale))>+8+8" -background '#777777' \
-      "$folder/$scheme-$scale-sheet-%02d.png"
+    pictures_taken=("$folder/$scheme-$scale"/*.png)
+    for ((at = 0; at < ${#pictures_taken[@]}; at += 9)); do
+      montage -label %t "${pictures_taken[@]:at:9}" -tile 3x3 -geometry "$((760 * scale))x$((560 * scale))>+8+8" \
+        -background '#777777' "$(printf '%s/sheet-%s-%d-%02d.png' "$folder" $scheme $scale $((at / 9)))"
+    done
   done
 done

@@ -58,6 +58,11 @@ class RowPainter : public QStyledItemDelegate {
 
 }  // namespace
 
+void DrawEdge(QPainter& painter, const QRect& area, QRgb color) {
+  for (const int y : {area.top(), area.bottom()}) painter.fillRect(area.left(), y, area.width(), 1, QColor(color));
+  for (const int x : {area.left(), area.right()}) painter.fillRect(x, area.top(), 1, area.height(), QColor(color));
+}
+
 void DrawRules(QPainter& painter, int first, int pitch, const QRect& area) {
   for (int y = first; y <= area.bottom(); y += pitch) {
     if (y >= area.top()) painter.fillRect(area.left(), y, area.width(), 1, QColor(Colors().Rule));
@@ -82,9 +87,7 @@ void Paper::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   painter.fillRect(event->rect(), QColor(Colors().Paper));
   DrawRules(painter, top_ + pitch_ - 1, pitch_, event->rect());
-  if (!hasEdge_) return;
-  painter.setPen(QColor(Colors().Edge));
-  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  if (hasEdge_) DrawEdge(painter, rect(), Colors().Edge);
 }
 
 // --- Writing -----------------------------------------------------------------------------------------------------

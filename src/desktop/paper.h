@@ -13,6 +13,9 @@
 
 namespace veld {
 
+/// Draws an edge of one pixel just inside `area`, as wide on all its sides on a screen of finer dots too.
+void DrawEdge(QPainter& painter, const QRect& area, QRgb color);
+
 /// Draws the rules of paper in `area`: the first at y = `first`, which may lie above it.
 void DrawRules(QPainter& painter, int first, int pitch, const QRect& area);
 

@@ -10,7 +10,7 @@
 #include <QStyleOption>
 #include <algorithm>
 
-#include "desktop/paper_colors.h"
+#include "desktop/paper.h"
 
 namespace veld {
 
@@ -33,14 +33,6 @@ void DrawBox(QPainter* painter, const QRect& rect, QRgb fill, QRgb edge, double 
   painter->restore();
 }
 
-void DrawEdge(QPainter* painter, const QRect& rect, QRgb edge) {
-  painter->save();
-  painter->setBrush(Qt::NoBrush);
-  painter->setPen(QColor(edge));
-  painter->drawRect(rect.adjusted(0, 0, -1, -1));
-  painter->restore();
-}
-
 /// Flat controls drawn with a pen: thin edges, paper inside, ink for what is chosen or has the focus.
 class PaperLook : public QProxyStyle {
  public:
@@ -55,10 +47,10 @@ class PaperLook : public QProxyStyle {
         return DrawFocus(option, painter);
       case PE_PanelLineEdit:
         painter->fillRect(option->rect, QColor(Colors().Paper));
-        return DrawEdge(painter, option->rect, EdgeOf(option));
+        return DrawEdge(*painter, option->rect, EdgeOf(option));
       case PE_FrameLineEdit:
       case PE_Frame:
-        return DrawEdge(painter, option->rect, EdgeOf(option));
+        return DrawEdge(*painter, option->rect, EdgeOf(option));
       case PE_IndicatorCheckBox:
         return DrawCheck(option, painter);
       case PE_IndicatorRadioButton:
@@ -72,7 +64,7 @@ class PaperLook : public QProxyStyle {
                    const QWidget* widget) const override {
     if (element == CE_ProgressBarGroove) {
       painter->fillRect(option->rect, QColor(Colors().Paper));
-      return DrawEdge(painter, option->rect, Colors().Edge);
+      return DrawEdge(*painter, option->rect, Colors().Edge);
     }
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
     if (element == CE_PushButtonLabel && button && button->features.testFlag(QStyleOptionButton::Flat)) {
@@ -208,7 +200,7 @@ class PaperLook : public QProxyStyle {
 
   static void DrawCombo(const QStyleOptionComplex* option, QPainter* painter) {
     painter->fillRect(option->rect, QColor(Colors().Paper));
-    DrawEdge(painter, option->rect, EdgeOf(option));
+    DrawEdge(*painter, option->rect, EdgeOf(option));
     const double x = option->rect.right() - 11;
     const double y = option->rect.top() + option->rect.height() / 2.0 + 0.5;
     painter->save();
