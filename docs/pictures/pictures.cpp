@@ -1,4 +1,4 @@
-// Writes pictures of the program's windows; scripts/make-pictures.sh runs it.
+// Writes pictures of the program's windows; make.sh runs it.
 //
 //   veld_pictures FOLDER light|dark forms      every form, as it opens and after some use, and the main window
 //   veld_pictures FOLDER light|dark handbook   those of the handbook

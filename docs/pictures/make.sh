@@ -1,15 +1,15 @@
 #!/usr/bin/env bash
 # Builds the program and takes pictures of its windows, without a screen.
-#   scripts/make-pictures.sh            those of the handbook, into docs/screenshots
-#   scripts/make-pictures.sh FOLDER     every form on a screen of 1024 x 768, as it opens and in use, into FOLDER: light and
-#                                       dark, at the usual size and twice as fine; then sheets of nine, to be looked through
+#   docs/pictures/make.sh            those of the handbook, into docs/screenshots
+#   docs/pictures/make.sh FOLDER     every form on a screen of 1024 x 768, as it opens and in use, into FOLDER: light and
+#                                    dark, at the usual size and twice as fine; then sheets of nine, to be looked through
 set -euo pipefail
-cd "$(dirname "$0")/.."
+cd "$(dirname "$0")/../.."
 
 scripts/install-packages.sh g++ cmake ninja-build qt6-base-dev libqt6widgets6 fonts-liberation libgtest-dev libncurses-dev \
   libxml2-dev libcairo2-dev libpango1.0-dev imagemagick
-build=${VELD_BUILD:-build/release}
-[ -n "${VELD_BUILD:-}" ] || scripts/configure.sh release
+build=${VELD_BUILD:-build/sanitize}
+[ -n "${VELD_BUILD:-}" ] || scripts/configure.sh sanitize
 cmake --build "$build" --target veld_pictures -- --quiet
 pictures=$PWD/$build/bin/veld_pictures
 screen=$(mktemp)
@@ -20,7 +20,7 @@ take() {
   printf '{"screens":[{"name":"desk","x":0,"y":0,"width":%d,"height":%d,"logicalDpi":96,"logicalBaseDpi":96,"dpr":1}]}' \
     $((1024 * $1)) $((768 * $1)) >"$screen"
   mkdir -p "$2"
-  QT_QPA_PLATFORM=offscreen:configfile=$screen QT_SCALE_FACTOR=$1 QT_LOGGING_RULES='*.warning=false' \
+  ASAN_OPTIONS=detect_leaks=0 QT_QPA_PLATFORM=offscreen:configfile=$screen QT_SCALE_FACTOR=$1 QT_LOGGING_RULES='*.warning=false' \
     timeout 300 "$pictures" "$2" "$3" "$4"
 }
 
