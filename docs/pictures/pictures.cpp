@@ -46,7 +46,7 @@ void Studio::TakeMain(const std::string& title, const std::vector<PageLine>& pag
   QPixmap picture = window.grab();
   if (beside) {
     QPainter painter(&picture);
-    painter.drawPixmap(window.mapFromGlobal(window.PagePlace()) + QPoint(24, 16),
+    painter.drawPixmap(window.mapFromGlobal(window.PagePlace()) + QPoint(60, 40),
                        Framed(FormPicture(*beside), ToQt(beside->Title())));
   }
   Save(Framed(picture, ToQt(title)), file);
