@@ -122,7 +122,7 @@ void AddSpellChanges(Lines& lines, const CharacterSheet& before, const Character
 
 void AddTraining(Lines& lines, const GenerationRun& run) {
   if (run.TrainingFreeMastery <= 0 && run.TrainingFreeSkills <= 0) return;
-  lines.push_back(Format("The last training gave %i mastery points and %i skills: write them in under Skills.",
+  lines.push_back(Format("The last training gave %i mastery points and %i skills: write them in under Skills",
                          run.TrainingFreeMastery, run.TrainingFreeSkills));
 }
 

@@ -45,7 +45,7 @@ constexpr auto kControls = [] {
       EditAt(3, 1, kName, 50),
       LabelAt(4, 0, "&Price"),
       EditAt(4, 1, kPrice, kNumberWidth),
-      LabelAt(4, 1, "&in"),
+      LabelAt(4, 1, "Co&in"),
       ComboAt(4, 1, kCoin, 4),
       LabelAt(4, 1, "&Weight (lb)"),
       EditAt(4, 1, kWeight, kNumberWidth),

@@ -52,7 +52,7 @@ constexpr auto kControls = [] {
       TitleAt(0, 0, "Classes and levels", 2),
       LabelAt(1, 0, "Experience &gained"),
       NumberThat(1, 1, kAmount, 10, kAward),
-      LabelAt(1, 1, "&for"),
+      LabelAt(1, 1, "&for class"),
       ComboAt(1, 1, kAwardTo, 22),
       ButtonAt(1, 1, kAward, "A&ward", ButtonRole::Default),
       LabelAt(3, 0, "&Classes held"),

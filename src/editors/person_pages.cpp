@@ -233,7 +233,7 @@ EditField AmountCoinField(Amount& amount) {
   std::vector<std::string> names;
   for (const CoinKind& coin : kCoinKinds) names.emplace_back(coin.Name);
   return ChoiceField(
-      "of", 18, names, [&amount](const Game&) { return std::string(kCoinKinds[amount.Coin].Name); },
+      "Coin", 18, names, [&amount](const Game&) { return std::string(kCoinKinds[amount.Coin].Name); },
       [&amount, names](Game&, const std::string& text) {
         amount.Coin = static_cast<std::size_t>(std::ranges::find(names, text) - names.begin());
       });

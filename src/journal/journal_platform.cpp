@@ -172,6 +172,7 @@ void JournalPlatform::PlayRun() {
   if (isReplaying_) GoLive();
   if (window_ && !window_->IsClosed()) {
     window_->SetActs(this);
+    window_->BeginAt(std::exchange(takenBackAt_, 0));
     front_.ShowWindow(window_);
   }
 }
@@ -298,6 +299,7 @@ void JournalPlatform::RunLive(Form& form) {
   {
     const Watch watch(*this, form);
     WriteNote();
+    form.BeginAt(std::exchange(takenBackAt_, 0));
     front_.RunForm(form);
   }
   if (isUnwinding_) throw RunUnwound();
@@ -334,6 +336,7 @@ void JournalPlatform::TakeBack() {
   if (!CanTakeBack()) return;
   WritePending();
   journal_.TakeBack();
+  takenBackAt_ = std::ranges::find_if(journal_.TakenBack.back(), CountsAsAct)->Id;
   WriteLine(kTakenBackLine);
   LogDiceLine(*game_, "Taken back.");
   isUnwinding_ = true;
@@ -345,6 +348,7 @@ void JournalPlatform::DoAgain() {
   if (!CanDoAgain()) return;
   WritePending();
   journal_.DoAgain();
+  takenBackAt_ = 0;
   WriteLine(kDoneAgainLine);
   isUnwinding_ = true;
   if (!live_.empty()) return live_.back()->Close();

@@ -252,6 +252,8 @@ void Form::PressCloseBox() {
 }
 
 std::size_t Form::FirstFocus() const {
+  const Control* const wanted = Find(beginAt_);
+  if (IsUsable(wanted)) return static_cast<std::size_t>(wanted - controls_.data());
   constexpr bool (*kWanted[])(const ControlTemplate&) = {
       [](const ControlTemplate& control) { return IsTyped(control.Kind); },
       [](const ControlTemplate& control) { return IsChosenFrom(control.Kind); },

@@ -107,6 +107,7 @@ class Form {
   /// types; else a list; else the default button; else whatever can be pressed. The number of controls if there is
   /// none.
   std::size_t FirstFocus() const;
+  void BeginAt(int id) { beginAt_ = id; }  ///< lets this control, if it can be used, have the focus first; 0: none
   void Open();  ///< calls onOpened, the first time
   bool Press(int id);
   bool Choose(int id, int selection);
@@ -137,6 +138,7 @@ class Form {
   std::vector<Control> controls_;
   FormObserver* observer_ = nullptr;
   FormActs* acts_ = nullptr;
+  int beginAt_ = 0;
   bool opened_ = false;
   bool closed_ = false;
 };

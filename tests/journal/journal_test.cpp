@@ -207,6 +207,26 @@ TEST(JournalTest, ARunUndoneToItsStartAndRedoneToItsEndIsTheSame) {
   EXPECT_EQ(finished, 2);
 }
 
+TEST(JournalTest, WhatIsTakenBackHasTheFocusAgain) {
+  constexpr int kHandedness = 6079;
+  const TestFolder folder;
+  Wanderer player(3);
+  int shown = 0;
+  player.onForm = [&](Form& form) {
+    if (form.Name() != "StepSix") return;
+    form.Open();
+    if (shown++ > 0) {
+      EXPECT_EQ(form.Controls()[form.FirstFocus()].Template.Id, kHandedness);
+      return form.PressCloseBox();
+    }
+    form.Press(kHandedness - 1);
+    form.Press(kHandedness);
+    form.TakeBack();
+  };
+  player.PlayRun();
+  EXPECT_EQ(shown, 2);
+}
+
 /// Plays a run in a process of its own that is killed before its `last` act; the marks are the states before each act.
 void PlayUntilKilled(std::uint32_t seed, int last, int marks) {
   Wanderer player(seed);
