@@ -40,6 +40,7 @@ PageMetrics TerminalMetrics(bool hasMenu) {
   m.ListPadding = 2;    // its edges; the right one is the scroll bar
   m.MarkWidth = 4;      // "[x] "
   m.CornerWidth = hasMenu ? kCornerWidth : 0;
+  m.WrapsResults = true;
   m.Roomy = {.BoxLines = 2, .TitleLines = 2};  // a blank line above buttons and fields, and under the title
   return m;
 }
