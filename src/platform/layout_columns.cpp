@@ -5,6 +5,7 @@ namespace veld::layout {
 namespace {
 
 constexpr int kLeastCharacters = 12;  // what a list or a text keeps when the page is narrow
+constexpr int kLeastText = 16;        // what a column of nothing but texts keeps before the others give way
 constexpr int kWidestItems = 40;      // a list without a wanted width grows with its items up to this many characters
 
 int TextWidth(const Page& page, std::string_view text, TextFace face) {
@@ -151,7 +152,12 @@ void MeasureColumns(Page& page) {
     const int width = NaturalWidth(page, cell);
     const bool shrinks = page.HasKind(cell, Shrinks);
     if (page.HasKind(cell, Stretches)) page.ColumnAt(LastUsedColumn(page, cell)).CanStretch = true;
-    if (shrinks) page.ColumnAt(LastUsedColumn(page, cell)).CanShrink = true;
+    if (shrinks) {
+      Column& last = page.ColumnAt(LastUsedColumn(page, cell));
+      const bool isText = page.KindOf(cell.Controls.front()) == ControlKind::Text;
+      last.IsOfText = isText && (last.IsOfText || !last.CanShrink);
+      last.CanShrink = true;
+    }
     if (cell.Controls.size() == 1 && page.KindOf(cell.Controls.front()) == ControlKind::Button) {
       column.ButtonWidth = std::max(column.ButtonWidth, width);
     }
@@ -181,21 +187,42 @@ bool FitsAcross(const Page& page, int width) {
          });
 }
 
-void StretchColumns(Page& page, int extra) {
-  const auto takesPart = [&](const Column& column) {
-    return extra > 0 ? column.CanStretch : column.CanShrink && column.Width > column.Least;
-  };
-  while (extra != 0) {
-    auto columns = std::ranges::count_if(page.columns, takesPart);
-    if (columns == 0) return;
+namespace {
+
+/// Takes `missing` width from the columns in equal parts, of each no more than leaves it its least. Returns what is
+/// still missing.
+int TakeWidth(Page& page, int missing, const std::function<int(const Column&)>& least) {
+  const auto canGive = [&](const Column& column) { return column.Width > least(column); };
+  while (missing > 0) {
+    auto columns = std::ranges::count_if(page.columns, canGive);
+    if (columns == 0) return missing;
     for (Column& column : page.columns) {
-      if (!takesPart(column)) continue;
-      const int share = extra / static_cast<int>(columns--);
-      const int width = std::max(column.Width + share, std::min(column.Width, column.Least));
-      extra -= width - column.Width;
-      column.Width = width;
-      if (columns == 0) break;
+      if (!canGive(column)) continue;
+      const int share = std::min(missing / static_cast<int>(columns--), column.Width - least(column));
+      column.Width -= share;
+      missing -= share;
     }
+  }
+  return 0;
+}
+
+}  // namespace
+
+void StretchColumns(Page& page, int extra) {
+  if (extra < 0) {
+    // A text to read scrolls, and gives way before what is chosen from is cut.
+    const int text = kLeastText * page.metrics.Character;
+    const int missing =
+        TakeWidth(page, -extra, [&](const Column& c) { return c.IsOfText ? std::max(c.Least, text) : c.Width; });
+    TakeWidth(page, missing, [](const Column& c) { return c.CanShrink ? c.Least : c.Width; });
+    return;
+  }
+  auto columns = std::ranges::count_if(page.columns, &Column::CanStretch);
+  for (Column& column : page.columns) {
+    if (!column.CanStretch) continue;
+    const int share = extra / static_cast<int>(columns--);
+    column.Width += share;
+    extra -= share;
   }
 }
 

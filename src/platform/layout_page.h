@@ -38,6 +38,7 @@ struct Column {
   bool IsUsed = false;
   bool CanStretch = false;
   bool CanShrink = false;
+  bool IsOfText = false;  ///< all in it that can shrink are texts
   int Width = 0;
   int Least = 0;        ///< what it keeps when the page is narrow
   int ButtonWidth = 0;  ///< of the buttons that stand alone in their places, so that they are all of one width

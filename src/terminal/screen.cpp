@@ -15,6 +15,7 @@
 #include <cstdlib>
 
 #include "platform/control_names.h"
+#include "platform/wrap_text.h"
 #include "terminal/cells.h"
 
 namespace veld {
@@ -368,6 +369,14 @@ void Screen::SetCursor(int y, int x) {
 
 void Screen::ShowKeys(std::string_view keys) {
   Put(Rows() - 1, 0, " " + std::string(keys), Columns(), Ink::Bar, 0, true);
+}
+
+void Screen::ShowText(std::string_view text, int bottom) {
+  const auto width = [](std::string_view line) { return CellsOf(line); };
+  const std::vector<std::string> lines = WrapText(text, std::max(Columns() - 2, 1), width);
+  const int top = Rows() - 1 - static_cast<int>(lines.size());
+  int y = top < bottom && lines.size() > 1 ? 0 : top;
+  for (const std::string& line : lines) Put(y++, 0, " " + line, Columns(), Ink::Bar);
 }
 
 void Screen::Beep() {
