@@ -151,7 +151,7 @@ int PlanRows(Page& page, int cap) {
       above = place;
       isAfterBlank = false;
     } else if (!row.IsKnown && above) {  // a row number left out is a blank line
-      row.Lines = row.IsCovered || (page.hasBlanks && !isAfterBlank) ? 1 : 0;
+      row.Lines = page.hasBlanks && (row.IsCovered || !isAfterBlank) ? 1 : 0;
       isAfterBlank = true;
     }
   }

@@ -64,7 +64,8 @@ std::string FocusLine(const Form& form, std::size_t control, int row) {
   switch (state.Template.Kind) {
     case ControlKind::Edit:
     case ControlKind::Number:
-      return Format("%s, %s: %s", name, state.Template.IsReadOnly ? "result" : "field", state.Text);
+      return Format("%s, %s%s%s", name, state.Template.IsReadOnly ? "result" : "field", state.Text.empty() ? "" : ": ",
+                    state.Text);
     case ControlKind::MultiLine:
       return name + ", field of several lines";
     case ControlKind::Button:

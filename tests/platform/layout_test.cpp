@@ -7,9 +7,12 @@
 #include "platform/control_names.h"
 #include "platform/mnemonics.h"
 #include "platform/wrap_text.h"
+#include "support/good_page.h"
 
 namespace veld {
 namespace {
+
+using testing::ExpectGoodPage;
 
 /// A desktop's metrics with letters of 7 pixels.
 PageMetrics Desktop() {
@@ -78,32 +81,6 @@ constexpr FormTemplate kTemplate{"Everything", "Everything", kControls, ""};
 const PlacedControl& Find(const PageLayout& page, const Form& form, int id) {
   return *std::ranges::find_if(page.Controls,
                                [&](const PlacedControl& p) { return form.Controls()[p.Control].Template.Id == id; });
-}
-
-bool Overlap(const PageRect& a, const PageRect& b) {
-  return a.X < b.Right() && b.X < a.Right() && a.Y < b.Bottom() && b.Y < a.Bottom();
-}
-
-/// What holds for every page: nothing overlaps, all is on the page, every line stands on a rule.
-void ExpectGoodPage(const Form& form, const PageLayout& page, const PageMetrics& m) {
-  std::vector<PageRect> areas;
-  if (m.CornerWidth > 0) areas.push_back(page.Corner);
-  for (const PlacedControl& placed : page.Controls) {
-    const std::string which =
-        form.Controls()[placed.Control].Text + "/" + std::to_string(form.Controls()[placed.Control].Template.Id);
-    const PageRect& area = placed.Area;
-    EXPECT_EQ((placed.Baseline - m.MarginTop - m.Baseline) % m.Pitch, 0) << which;
-    EXPECT_GE(area.X, m.MarginLeft) << which;
-    EXPECT_GE(area.Y, 0) << which;
-    EXPECT_LE(area.Right(), page.Page.Width - m.MarginRight) << which;
-    EXPECT_LE(area.Bottom(), page.Page.Height) << which;
-    EXPECT_GT(area.Width, 0) << which;
-    EXPECT_GT(area.Height, 0) << which;
-    EXPECT_TRUE(area.Y <= placed.Baseline && placed.Baseline <= area.Bottom()) << which;
-    for (const PageRect& other : areas) EXPECT_FALSE(Overlap(area, other)) << which;
-    areas.push_back(area);
-    if (placed.Scrolls) areas.back().Height -= m.FrameAbove;  // two frames may share an edge
-  }
 }
 
 PageLayout NaturalLayout(const Form& form, const PageMetrics& m, PageSize limit = {2000, 2000}) {
