@@ -68,10 +68,11 @@ constexpr int kChoices = 3021;
 constexpr int kPicksLeft = 50;
 
 constexpr ControlTemplate kFreePicksControls[] = {
-    ListAt(0, 0, kChoices, 44, 12),
-    LabelAt(1, 0, "Picks left: "),
-    ResultAt(1, 0, kPicksLeft, 4),
-    ButtonAt(2, 0, kAccept, "&Accept Selection", ButtonRole::Default),
+    LabelAt(0, 0, "Choose &one"),
+    ListAt(1, 0, kChoices, 44, 12),
+    LabelAt(2, 0, "Picks left: "),
+    ResultAt(2, 0, kPicksLeft, 4),
+    ButtonAt(3, 0, kAccept, "&Accept Selection", ButtonRole::Default),
 };
 constexpr std::string_view kFreeMysticHelp =
     "The package gives three skills free, one for each press of Accept Selection. Picks left counts them. A press is "

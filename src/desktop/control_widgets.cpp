@@ -107,9 +107,9 @@ QWidget* MakeControlWidget(const Control& control, const PaperStyle& style, QWid
     case ControlKind::Title:
     case ControlKind::Heading:
     case ControlKind::Label:
-      return new Writing(style, FaceOf(kind), kTextColor, page);
+      return new Writing(style, FaceOf(kind), &PaperColors::Text, page);
     case ControlKind::Result:
-      return new Writing(style, TextFace::Plain, kInkColor, page);
+      return new Writing(style, TextFace::Plain, &PaperColors::Ink, page);
     case ControlKind::Text:
       return MakeText(style, page);
     case ControlKind::Edit:

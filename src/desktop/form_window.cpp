@@ -10,7 +10,6 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
-#include <QPalette>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
@@ -42,6 +41,18 @@ struct ActKey {
 };
 constexpr ActKey kActKeys[] = {
     {Qt::CTRL | Qt::Key_Z, false}, {Qt::CTRL | Qt::SHIFT | Qt::Key_Z, true}, {Qt::CTRL | Qt::Key_Y, true}};
+
+/// The texts that a page begins with: of a message or a question all there is to read. They are read out with its
+/// title.
+std::string FirstTexts(const Form& form) {
+  std::string texts;
+  for (const Control& control : form.Controls()) {
+    if (CanBeUsed(control.Template.Kind)) break;
+    if (control.Template.Kind != ControlKind::Text || !control.Visible || control.Text.empty()) continue;
+    texts += (texts.empty() ? "" : "\n") + control.Text;
+  }
+  return texts;
+}
 
 }  // namespace
 
@@ -185,24 +196,40 @@ void FormWindow::JoinGroup(std::size_t control) {
   group->addButton(static_cast<QAbstractButton*>(widgets_[control]));
 }
 
-/// Ties each label to the control that it names, for its letter and for screen readers.
+/// Ties each label to the control that it names, for its letter and for screen readers, and names what has no label.
 void FormWindow::NameControls() {
+  needsNames_ = false;
+  const std::vector<std::string> names = ControlNames(form_);
   for (std::size_t i = 0; i < widgets_.size(); ++i) {
-    const ControlKind kind = form_.Controls()[i].Template.Kind;
+    const Control& control = form_.Controls()[i];
+    const ControlKind kind = control.Template.Kind;
+    const QString name = ToQtLine(names[i]);
     if (kind == ControlKind::Label) {
       const std::size_t named = NamedControl(form_, i);
-      if (named < widgets_.size()) static_cast<QLabel*>(widgets_[i])->setBuddy(widgets_[named]);
-      continue;
-    }
-    const QString name = ToQtLine(ControlName(form_, i));
-    if (name.isEmpty()) continue;
-    // A result, a button and a check or radio button are read by their own text.
-    if (kind == ControlKind::Result) widgets_[i]->setAccessibleDescription(name);
-    if (HasMnemonic(kind) && form_.Controls()[i].Text.empty()) widgets_[i]->setAccessibleName(name);
-    if (IsTyped(kind) || IsChosenFrom(kind) || kind == ControlKind::Text || kind == ControlKind::Progress) {
+      static_cast<QLabel*>(widgets_[i])->setBuddy(named < widgets_.size() ? widgets_[named] : nullptr);
+    } else if (kind == ControlKind::Result) {
+      widgets_[i]->setAccessibleDescription(ToQtLine(ControlName(form_, i)));  // it is read by its own text
+    } else if (!IsWriting(kind)) {
       widgets_[i]->setAccessibleName(name);
     }
+    if (kind == ControlKind::Combo) NameCombo(i, name);
   }
+  setAccessibleDescription(ToQt(FirstTexts(form_)));
+}
+
+/// Where the toolkit reads a combo by what is chosen in it, only a label gives it a name; where none does on the page,
+/// one that nobody sees.
+void FormWindow::NameCombo(std::size_t combo, const QString& name) {
+  for (std::size_t i = 0; i < widgets_.size(); ++i) {
+    const bool isLabel = form_.Controls()[i].Template.Kind == ControlKind::Label;
+    if (isLabel && NamedControl(form_, i) == combo && ToQtLine(ShownText(form_.Controls()[i])) == name) return;
+  }
+  QLabel*& label = unseen_[combo];
+  if (!label) label = new QLabel(paper_);
+  label->setText(QString(name).replace("&", "&&"));
+  label->setGeometry(0, 0, 0, 0);
+  label->hide();
+  label->setBuddy(widgets_[combo]);
 }
 
 int FormWindow::CornerButtonWidth(const QPushButton& button) const {
@@ -264,9 +291,6 @@ QPushButton* FormWindow::MakeWord(const char* text, const char* tip, void (FormW
   button->setFlat(true);
   button->setFocusPolicy(Qt::NoFocus);
   button->setCursor(Qt::PointingHandCursor);
-  QPalette ink = button->palette();
-  ink.setColor(QPalette::ButtonText, QColor(kInkColor));
-  button->setPalette(ink);
   QObject::connect(button, &QPushButton::clicked, this, act);
   metrics_.CornerWidth += CornerButtonWidth(*button);
   return button;
@@ -320,6 +344,7 @@ void FormWindow::ResizeToForm() {
 /// After texts or what is visible have changed: the window grows where the page needs more room; it never shrinks.
 void FormWindow::FitToForm() {
   needsFit_ = false;
+  if (needsNames_) NameControls();
   const PageSize limit = Limit();
   const PageSize natural = NaturalPageSize(form_, metrics_, limit);
   const int wider = std::max(width(), std::min(natural.Width, limit.Width));
@@ -381,7 +406,9 @@ void FormWindow::OnControlChanged(std::size_t control) {
   const ControlKind kind = state.Template.Kind;
   const bool isSized = kind == ControlKind::Text || kind == ControlKind::Result ||
                        (state.Template.Width == 0 && !IsTyped(kind)) || HasMnemonic(kind);
-  if (isSized || widgets_[control]->isHidden() == state.Visible) FitSoon();
+  const bool comesOrGoes = widgets_[control]->isHidden() == state.Visible;
+  needsNames_ |= comesOrGoes || kind == ControlKind::Text || HasMnemonic(kind);
+  if (isSized || comesOrGoes) FitSoon();
   if (HasMnemonic(kind))
     MarkTexts();
   else

@@ -12,6 +12,7 @@
 #include "platform/form.h"
 
 class QButtonGroup;
+class QLabel;
 class QPushButton;
 class QScrollArea;
 
@@ -53,6 +54,7 @@ class FormWindow : public QDialog, private FormObserver {
   void Connect(std::size_t control);
   void JoinGroup(std::size_t control);
   void NameControls();
+  void NameCombo(std::size_t combo, const QString& name);
   void MakeCorner();
   void MakeHelp();
   void MakeKeys();
@@ -92,6 +94,7 @@ class FormWindow : public QDialog, private FormObserver {
   QPushButton* doAgain_ = nullptr;
   std::vector<QWidget*> widgets_;  ///< one for each control of the form
   std::map<int, QButtonGroup*> groups_;
+  std::map<std::size_t, QLabel*> unseen_;  ///< of combos that no label on the page names
   std::vector<QString> marked_;
   std::optional<std::size_t> wantedFocus_;
   std::optional<std::pair<std::size_t, int>> choice_;  ///< a row just chosen, not yet told to the form
@@ -99,6 +102,7 @@ class FormWindow : public QDialog, private FormObserver {
   bool isBuilt_ = false;
   bool isModal_ = false;
   bool needsFit_ = false;
+  bool needsNames_ = false;
   int depth_ = 0;  ///< handlers of this form that are running
   std::exception_ptr error_;
 };

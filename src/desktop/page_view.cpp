@@ -43,6 +43,11 @@ void PageView::Show(const std::vector<PageLine>& page) {
   const bool isSame = !page.empty() && !page_.empty() && page.front() == page_.front();
   const int place = isSame ? verticalScrollBar()->value() : 0;
   page_ = page;
+  WritePage();
+  verticalScrollBar()->setValue(place);
+}
+
+void PageView::WritePage() {
   clear();
   QTextCursor at(document());
   at.beginEditBlock();
@@ -63,7 +68,6 @@ void PageView::Show(const std::vector<PageLine>& page) {
   document()->rootFrame()->setFrameFormat(frame);
   at.endEditBlock();
   verticalScrollBar()->setSingleStep(pitch_);
-  verticalScrollBar()->setValue(place);
 }
 
 /// Every line is as high as the rules are apart, whatever its face; a gap is a line without text.
@@ -79,7 +83,7 @@ void PageView::Write(QTextCursor& at, const PageLine& line, bool hasGap) {
   block.setNonBreakableLines(isTitle);
   QTextCharFormat ink;
   ink.setFont(face);
-  ink.setForeground(QColor(line.What == Kind::Text ? kInkColor : kTextColor));
+  ink.setForeground(QColor(line.What == Kind::Text ? Colors().Ink : Colors().Text));
   if (line.What == Kind::Fact) {
     int labels = kLeastLabels * style_.Metrics.Character;
     for (const PageLine& other : page_) labels = std::max(labels, text.horizontalAdvance(ToQtLine(other.Label)));
@@ -89,16 +93,25 @@ void PageView::Write(QTextCursor& at, const PageLine& line, bool hasGap) {
     block.setTabPositions({QTextOption::Tab(column, QTextOption::LeftTab)});
     at.setBlockFormat(block);
     at.insertText(ToQtLine(line.Label) + '\t', ink);
-    ink.setForeground(QColor(kInkColor));
+    ink.setForeground(QColor(Colors().Ink));
   }
   at.setBlockFormat(block);
   at.insertText(ToQtLine(line.Value), ink);
 }
 
+/// In other colours the page is written anew.
+void PageView::changeEvent(QEvent* event) {
+  QTextEdit::changeEvent(event);
+  if (event->type() != QEvent::PaletteChange || page_.empty()) return;
+  const int place = verticalScrollBar()->value();
+  WritePage();
+  verticalScrollBar()->setValue(place);
+}
+
 void PageView::paintEvent(QPaintEvent* event) {
   {
     QPainter painter(viewport());
-    painter.fillRect(event->rect(), QColor(kPaperColor));
+    painter.fillRect(event->rect(), QColor(Colors().Paper));
     const int scrolled = verticalScrollBar()->value();
     DrawRules(painter, top_ + pitch_ - 1 - scrolled, pitch_, event->rect());
   }

@@ -19,8 +19,10 @@ class PageView : public QTextEdit {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
+  void WritePage();
   void Write(QTextCursor& at, const PageLine& line, bool hasGap);
 
   const PaperStyle& style_;

@@ -35,9 +35,9 @@ class RowPainter : public QStyledItemDelegate {
     const bool isActive = option.state.testFlag(QStyle::State_HasFocus) || option.state.testFlag(QStyle::State_Active);
     const bool isEnabled = option.state.testFlag(QStyle::State_Enabled);
     const QRect row = option.rect.adjusted(0, 0, 0, -1);
-    if (isChosen) painter->fillRect(row, QColor(isActive && isEnabled ? kChosenColor : kWashColor));
+    if (isChosen) painter->fillRect(row, QColor(isActive && isEnabled ? Colors().Chosen : Colors().Wash));
     painter->setFont(option.font);
-    painter->setPen(QColor(!isEnabled ? kFaintColor : isChosen && isActive ? kPaperColor : kTextColor));
+    painter->setPen(QColor(!isEnabled ? Colors().Faint : isChosen && isActive ? Colors().ChosenText : Colors().Text));
     const QString text =
         option.fontMetrics.elidedText(index.data().toString(), Qt::ElideRight, row.width() - 2 * kFrameGap);
     painter->drawText(row.left() + kFrameGap, row.top() + metrics_.Baseline, text);
@@ -60,7 +60,7 @@ class RowPainter : public QStyledItemDelegate {
 
 void DrawRules(QPainter& painter, int first, int pitch, const QRect& area) {
   for (int y = first; y <= area.bottom(); y += pitch) {
-    if (y >= area.top()) painter.fillRect(area.left(), y, area.width(), 1, QColor(kRuleColor));
+    if (y >= area.top()) painter.fillRect(area.left(), y, area.width(), 1, QColor(Colors().Rule));
   }
 }
 
@@ -80,23 +80,19 @@ Paper::Paper(int top, int pitch, QWidget* parent) : QWidget(parent), top_(top), 
 
 void Paper::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
-  painter.fillRect(event->rect(), QColor(kPaperColor));
+  painter.fillRect(event->rect(), QColor(Colors().Paper));
   DrawRules(painter, top_ + pitch_ - 1, pitch_, event->rect());
   if (!hasEdge_) return;
-  painter.setPen(QColor(kEdgeColor));
+  painter.setPen(QColor(Colors().Edge));
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 // --- Writing -----------------------------------------------------------------------------------------------------
 
-Writing::Writing(const PaperStyle& style, TextFace face, QRgb color, QWidget* parent)
-    : QLabel(parent), metrics_(style.Metrics) {
+Writing::Writing(const PaperStyle& style, TextFace face, QRgb PaperColors::*color, QWidget* parent)
+    : QLabel(parent), metrics_(style.Metrics), color_(color) {
   setTextFormat(Qt::PlainText);
   setFont(style.FontOf(face));
-  QPalette own = palette();
-  own.setColor(QPalette::Active, QPalette::WindowText, QColor(color));
-  own.setColor(QPalette::Inactive, QPalette::WindowText, QColor(color));
-  setPalette(own);
 }
 
 void Writing::SetLines(const std::vector<std::string>& lines) {
@@ -130,7 +126,7 @@ void Writing::DrawLine(QPainter& painter, const QString& line, int baseline) con
 
 void Writing::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
+  painter.setPen(QColor(isEnabled() ? Colors().*color_ : Colors().Faint));
   const QStringList lines = Lines();
   const qsizetype room = std::max(1, (height() + metrics_.FrameAbove) / metrics_.Pitch);
   for (qsizetype i = 0; i < std::min(lines.size(), room); ++i) {

@@ -19,11 +19,11 @@ void DrawRules(QPainter& painter, int first, int pitch, const QRect& area);
 /// The height that the text engine gives a line of its own accord, which is not quite that of the font's metrics.
 double LineHeight(const QFont& font);
 
-/// White paper with a pale-blue rule under every line.
+/// Paper with a pale rule under every line.
 class Paper : public QWidget {
  public:
   Paper(int top, int pitch, QWidget* parent);            ///< the first line's top edge, and from rule to rule
-  void SetHasEdge(bool hasEdge) { hasEdge_ = hasEdge; }  ///< where white paper lies on white paper
+  void SetHasEdge(bool hasEdge) { hasEdge_ = hasEdge; }  ///< where paper lies on paper
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -38,7 +38,7 @@ class Paper : public QWidget {
 /// and the whole is shown under the pointer.
 class Writing : public QLabel {
  public:
-  Writing(const PaperStyle& style, TextFace face, QRgb color, QWidget* parent);
+  Writing(const PaperStyle& style, TextFace face, QRgb PaperColors::*color, QWidget* parent);
   void SetLines(const std::vector<std::string>& lines);  ///< of a text of several lines, as the lay-out broke it
 
  protected:
@@ -51,10 +51,11 @@ class Writing : public QLabel {
   bool IsCut() const;
 
   const PageMetrics& metrics_;
+  QRgb PaperColors::*color_;
   QStringList lines_;
 };
 
-/// Draws the rows of lists and combos: one to a rule of the paper, in ink on white, a wash over the chosen one.
+/// Draws the rows of lists and combos: one to a rule of the paper, in ink, a wash over the chosen one.
 QAbstractItemDelegate* MakeRowPainter(const PaperStyle& style, QObject* parent);
 
 /// A list whose rows stand on the rules of the paper.

@@ -40,7 +40,7 @@ void DrawEdge(QPainter* painter, const QRect& rect, QRgb edge) {
   painter->restore();
 }
 
-/// Flat controls drawn with a pen: thin edges, white inside, ink for what is chosen or has the focus.
+/// Flat controls drawn with a pen: thin edges, paper inside, ink for what is chosen or has the focus.
 class PaperLook : public QProxyStyle {
  public:
   PaperLook() : QProxyStyle(QStyleFactory::create("Fusion")) {}
@@ -53,7 +53,7 @@ class PaperLook : public QProxyStyle {
       case PE_FrameFocusRect:
         return DrawFocus(option, painter);
       case PE_PanelLineEdit:
-        painter->fillRect(option->rect, QColor(kPaperColor));
+        painter->fillRect(option->rect, QColor(Colors().Paper));
         return DrawEdge(painter, option->rect, EdgeOf(option));
       case PE_FrameLineEdit:
       case PE_Frame:
@@ -70,8 +70,14 @@ class PaperLook : public QProxyStyle {
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                    const QWidget* widget) const override {
     if (element == CE_ProgressBarGroove) {
-      painter->fillRect(option->rect, QColor(kPaperColor));
-      return DrawEdge(painter, option->rect, kEdgeColor);
+      painter->fillRect(option->rect, QColor(Colors().Paper));
+      return DrawEdge(painter, option->rect, Colors().Edge);
+    }
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (element == CE_PushButtonLabel && button && button->features.testFlag(QStyleOptionButton::Flat)) {
+      QStyleOptionButton word = *button;  // a mere word is written in ink
+      word.palette.setColor(QPalette::ButtonText, QColor(Colors().Ink));
+      return QProxyStyle::drawControl(element, &word, painter, widget);
     }
     const auto* progress = qstyleoption_cast<const QStyleOptionProgressBar*>(option);
     if (element == CE_ProgressBarContents && progress) return DrawProgress(*progress, painter);
@@ -114,6 +120,10 @@ class PaperLook : public QProxyStyle {
     }
   }
 
+  /// The toolkit asks at the start, and again whenever the system's colours have changed.
+  void polish(QPalette& palette) override { FollowScheme(palette); }
+  using QProxyStyle::polish;
+
   /// A menu bar asks for this one as soon as it is made; looking for it among the desktop's icons takes long.
   QIcon standardIcon(StandardPixmap which, const QStyleOption* option, const QWidget* widget) const override {
     if (which == SP_ToolBarHorizontalExtensionButton) return MoreIcon();
@@ -132,14 +142,14 @@ class PaperLook : public QProxyStyle {
     QPixmap pixmap(16, 16);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
-    painter.setPen(QColor(kTextColor));
+    painter.setPen(QColor(Colors().Text));
     for (const int x : {4, 8}) painter.drawPolyline(QPolygon({{x, 4}, {x + 4, 8}, {x, 12}}));
     return QIcon(pixmap);
   }
 
   static QRgb EdgeOf(const QStyleOption* option) {
-    if (!Has(option, State_Enabled)) return kRuleColor;
-    return Has(option, State_HasFocus) ? kInkColor : kEdgeColor;
+    if (!Has(option, State_Enabled)) return Colors().FaintEdge;
+    return Has(option, State_HasFocus) ? Colors().Ink : Colors().Edge;
   }
 
   static void DrawButton(const QStyleOption* option, QPainter* painter) {
@@ -149,23 +159,23 @@ class PaperLook : public QProxyStyle {
     const bool isEnabled = Has(option, State_Enabled);
     const bool hasFocus = isEnabled && Has(option, State_HasFocus);
     const bool isLit = hasFocus || (isEnabled && Has(option, State_MouseOver));
-    const QRgb fill = isDown ? kRuleColor : isLit ? kWashColor : 0xfff8fafd;
-    const QRgb edge = !isEnabled ? kRuleColor : isDefault || hasFocus ? kInkColor : kEdgeColor;
+    const QRgb fill = isDown ? Colors().Pressed : isLit ? Colors().Wash : Colors().Button;
+    const QRgb edge = !isEnabled ? Colors().FaintEdge : isDefault || hasFocus ? Colors().Ink : Colors().Edge;
     DrawBox(painter, option->rect, fill, edge, 3, isDefault && isEnabled ? 1.8 : 1);
-    if (hasFocus) DrawBox(painter, option->rect.adjusted(3, 3, -3, -3), fill, kInkColor, 2);
+    if (hasFocus) DrawBox(painter, option->rect.adjusted(3, 3, -3, -3), fill, Colors().Ink, 2);
   }
 
   static void DrawFocus(const QStyleOption* option, QPainter* painter) {
     painter->save();
     painter->setBrush(Qt::NoBrush);
-    painter->setPen(QPen(QColor(kInkColor), 1, Qt::DotLine));
+    painter->setPen(QPen(QColor(Colors().Ink), 1, Qt::DotLine));
     painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
     painter->restore();
   }
 
   static void DrawCheck(const QStyleOption* option, QPainter* painter) {
-    const QRgb mark = Has(option, State_Enabled) ? kInkColor : kFaintColor;
-    DrawBox(painter, option->rect, Has(option, State_Sunken) ? kWashColor : kPaperColor, EdgeOf(option), 2);
+    const QRgb mark = Has(option, State_Enabled) ? Colors().Ink : Colors().Faint;
+    DrawBox(painter, option->rect, Has(option, State_Sunken) ? Colors().Wash : Colors().Paper, EdgeOf(option), 2);
     if (!Has(option, State_On)) return;
     const QRectF box = option->rect;
     QPainterPath path(QPointF(box.left() + box.width() * 0.22, box.top() + box.height() * 0.52));
@@ -179,9 +189,9 @@ class PaperLook : public QProxyStyle {
   }
 
   static void DrawRadio(const QStyleOption* option, QPainter* painter) {
-    const QRgb mark = Has(option, State_Enabled) ? kInkColor : kFaintColor;
+    const QRgb mark = Has(option, State_Enabled) ? Colors().Ink : Colors().Faint;
     const double radius = option->rect.width() / 2.0;
-    DrawBox(painter, option->rect, Has(option, State_Sunken) ? kWashColor : kPaperColor, EdgeOf(option), radius);
+    DrawBox(painter, option->rect, Has(option, State_Sunken) ? Colors().Wash : Colors().Paper, EdgeOf(option), radius);
     if (!Has(option, State_On)) return;
     const int inset = std::max(option->rect.width() / 4, 2);
     DrawBox(painter, option->rect.adjusted(inset, inset, -inset, -inset), mark, mark, radius);
@@ -191,17 +201,17 @@ class PaperLook : public QProxyStyle {
     const int range = std::max(bar.maximum - bar.minimum, 1);
     QRect done = bar.rect.adjusted(2, 2, -2, -2);
     done.setWidth(done.width() * std::clamp(bar.progress - bar.minimum, 0, range) / range);
-    painter->fillRect(done, QColor(0xffb9cdef));
+    painter->fillRect(done, QColor(Colors().Done));
   }
 
   static void DrawCombo(const QStyleOptionComplex* option, QPainter* painter) {
-    painter->fillRect(option->rect, QColor(kPaperColor));
+    painter->fillRect(option->rect, QColor(Colors().Paper));
     DrawEdge(painter, option->rect, EdgeOf(option));
     const double x = option->rect.right() - 11;
     const double y = option->rect.top() + option->rect.height() / 2.0 + 0.5;
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(QPen(QColor(Has(option, State_Enabled) ? kTextColor : kFaintColor), 1.4));
+    painter->setPen(QPen(QColor(Has(option, State_Enabled) ? Colors().Text : Colors().Faint), 1.4));
     painter->drawPolyline(QPolygonF({{x - 4, y - 2}, {x, y + 2}, {x + 4, y - 2}}));
     painter->restore();
   }
@@ -230,11 +240,11 @@ class PaperLook : public QProxyStyle {
   }
 
   void DrawScrollBar(const QStyleOptionComplex* option, QPainter* painter, const QWidget* widget) const {
-    painter->fillRect(option->rect, QColor(0xfff5f7fb));
+    painter->fillRect(option->rect, QColor(Colors().Groove));
     const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
     if (!bar || bar->maximum <= bar->minimum) return;
     const QRect slider = subControlRect(CC_ScrollBar, option, SC_ScrollBarSlider, widget).adjusted(3, 3, -3, -3);
-    const QRgb color = Has(option, State_Sunken) || Has(option, State_MouseOver) ? 0xff8fa3c4 : 0xffc0cbdd;
+    const QRgb color = Has(option, State_Sunken) || Has(option, State_MouseOver) ? Colors().SliderLit : Colors().Slider;
     DrawBox(painter, slider, color, color, 3);
   }
 };
@@ -243,26 +253,6 @@ class PaperLook : public QProxyStyle {
 
 QStyle* MakePaperLook() {
   return new PaperLook;
-}
-
-QPalette PaperPalette() {
-  QPalette palette;
-  palette.setColor(QPalette::Window, QColor(0xfff7f9fc));
-  palette.setColor(QPalette::WindowText, QColor(kTextColor));
-  palette.setColor(QPalette::Base, QColor(kPaperColor));
-  palette.setColor(QPalette::AlternateBase, QColor(0xfff3f6fb));
-  palette.setColor(QPalette::Text, QColor(kTextColor));
-  palette.setColor(QPalette::PlaceholderText, QColor(kFaintColor));
-  palette.setColor(QPalette::Button, QColor(0xfff4f6fa));
-  palette.setColor(QPalette::ButtonText, QColor(kTextColor));
-  palette.setColor(QPalette::Highlight, QColor(kChosenColor));
-  palette.setColor(QPalette::HighlightedText, QColor(kPaperColor));
-  palette.setColor(QPalette::ToolTipBase, QColor(kPaperColor));
-  palette.setColor(QPalette::ToolTipText, QColor(kTextColor));
-  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-    palette.setColor(QPalette::Disabled, role, QColor(kFaintColor));
-  }
-  return palette;
 }
 
 }  // namespace veld

@@ -1,15 +1,11 @@
 #pragma once
 
-#include <QPalette>
-
 class QStyle;
 
 namespace veld {
 
-/// The look of controls: flat, drawn with a pen, ink for what is chosen or has the focus. The application owns it.
+/// The look of controls: flat, drawn with a pen, ink for what is chosen or has the focus. The application owns it. In
+/// its colours it follows the system.
 QStyle* MakePaperLook();
-
-/// The colours of controls.
-QPalette PaperPalette();
 
 }  // namespace veld

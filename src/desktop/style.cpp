@@ -8,6 +8,7 @@
 #include <clocale>
 
 #include "desktop/paper_look.h"
+#include "desktop/text_to_read.h"
 
 namespace veld {
 
@@ -76,8 +77,8 @@ void SetUpLook() {
   QLocale::setDefault(QLocale::c());
   QApplication::setQuitOnLastWindowClosed(false);  // windows follow each other; the main window ends the program
   QApplication::setStyle(MakePaperLook());
-  QApplication::setPalette(PaperPalette());
   QApplication::setFont(PageFont());
+  TellTextsToRead();
 }
 
 QString ToQt(std::string_view text) {

@@ -64,6 +64,53 @@ std::size_t Vertical(const Form& form, std::size_t control, int rows) {
   return static_cast<std::size_t>(found - controls.begin());
 }
 
+bool IsSameKind(ControlKind a, ControlKind b) {
+  return a == b || (IsTyped(a) && IsTyped(b));
+}
+
+/// What names the row of a table that the control stands in: the nearest label, heading or marked box to its left.
+std::string RowName(const Form& form, std::size_t control) {
+  const auto& controls = form.Controls();
+  for (std::size_t i = Neighbour(form, control, true); i < controls.size(); i = Neighbour(form, i, true)) {
+    const ControlKind kind = controls[i].Template.Kind;
+    if (!controls[i].Text.empty() && (IsCaption(kind) || IsMark(kind))) return ShownText(controls[i]);
+  }
+  return {};
+}
+
+/// What names the column: the first label or heading over the controls above it.
+std::string ColumnName(const Form& form, std::size_t control) {
+  const auto& controls = form.Controls();
+  std::size_t above = Vertical(form, control, -1);
+  while (above < controls.size() && CanBeUsed(controls[above].Template.Kind)) above = Vertical(form, above, -1);
+  return above < controls.size() && IsCaption(controls[above].Template.Kind) ? ShownText(controls[above]) : "";
+}
+
+/// What names a control that has no label: the text above it, which asks for something, or the heading of its column;
+/// else the title of the page.
+std::string NameOfPlace(const Form& form, std::size_t control) {
+  const auto& controls = form.Controls();
+  const bool isText = controls[control].Template.Kind == ControlKind::Text;
+  const std::size_t above = isText ? controls.size() : Vertical(form, control, -1);
+  if (above < controls.size() && controls[above].Template.Kind == ControlKind::Text) return controls[above].Text;
+  if (above < controls.size() && CanBeUsed(controls[above].Template.Kind)) {
+    if (std::string column = ColumnName(form, control); !column.empty()) return column;
+  }
+  const auto isTitle = [](const Control& other) { return other.Template.Kind == ControlKind::Title; };
+  const auto title = std::ranges::find_if(controls, isTitle);
+  return title == controls.end() ? form.Title() : title->Text;
+}
+
+/// The name of one of several controls that are named alike.
+std::string NameInTable(const Form& form, std::size_t control, const std::string& name) {
+  const std::string row = RowName(form, control);
+  const std::string column = ColumnName(form, control);
+  const bool hasText = !form.Controls()[control].Text.empty() && HasMnemonic(form.Controls()[control].Template.Kind);
+  if (!hasText && !row.empty() && !column.empty()) return row + ", " + column;
+  const std::string& more = row.empty() || row == name ? column : row;
+  return more.empty() || more == name ? name : name + ", " + more;
+}
+
 }  // namespace
 
 std::size_t NamedControl(const Form& form, std::size_t label) {
@@ -101,12 +148,34 @@ std::string ControlName(const Form& form, std::size_t control) {
     if (!(IsField(self) || self == ControlKind::Result) || !isOfRow) break;
   }
   std::size_t above = Vertical(form, control, -1);
-  while (above < none && controls[above].Template.Kind == self) above = Vertical(form, above, -1);  // a table's column
+  const bool isInColumn = self != ControlKind::Text;
+  while (isInColumn && above < none && controls[above].Template.Kind == self) above = Vertical(form, above, -1);
   if (above == none || !IsCaption(controls[above].Template.Kind)) return {};
   const std::size_t next = Neighbour(form, above, false);
   const bool namesAnother =
       next < none && (CanBeUsed(controls[next].Template.Kind) || controls[next].Template.Kind == ControlKind::Result);
   return namesAnother ? std::string() : ShownText(controls[above]);
+}
+
+std::vector<std::string> ControlNames(const Form& form) {
+  const auto& controls = form.Controls();
+  std::vector<std::string> names;
+  for (std::size_t i = 0; i < controls.size(); ++i) {
+    names.push_back(HasMnemonic(controls[i].Template.Kind) ? ShownText(controls[i]) : std::string());
+    if (names[i].empty()) names[i] = ControlName(form, i);
+    if (names[i].empty() && !IsWriting(controls[i].Template.Kind)) names[i] = NameOfPlace(form, i);
+  }
+  const std::vector<std::string> plain = names;
+  const auto isUsable = [&](std::size_t i) { return controls[i].Visible && CanBeUsed(controls[i].Template.Kind); };
+  for (std::size_t i = 0; i < controls.size(); ++i) {
+    bool isAlike = false;
+    for (std::size_t other = 0; isUsable(i) && other < controls.size(); ++other) {
+      isAlike |= other != i && plain[other] == plain[i] && isUsable(other) &&
+                 IsSameKind(controls[other].Template.Kind, controls[i].Template.Kind);
+    }
+    if (isAlike) names[i] = NameInTable(form, i, plain[i]);
+  }
+  return names;
 }
 
 }  // namespace veld

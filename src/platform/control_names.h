@@ -3,14 +3,20 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/form.h"
 
 namespace veld {
 
-/// What names a control to someone who can not see the page: the label to the left of it, or above it and others of its
-/// kind; for a result also the button to the left. Without marks before letters; empty if nothing names it.
+/// What stands on the page for a control's name: the label to the left of it, or above it and others of its kind; for a
+/// result also the button to the left. Without marks before letters; empty if nothing names it.
 std::string ControlName(const Form& form, std::size_t control);
+
+/// The names of all controls to someone who can not see the page, in their order: a button's text, or what the page has
+/// for a name, else the text above it, else the page's title. Of those that can be used no two of a kind are named
+/// alike: in a table each has its row and its column for a name, "Strength, 1d100".
+std::vector<std::string> ControlNames(const Form& form);
 
 /// The control that the label names: the first one after it in its row, or the one below it, that can be used. Its
 /// place in Form::Controls(), or the number of controls if there is none.

@@ -78,8 +78,8 @@ const Dialog kDialogs[] = {
        game.sheet.SiblingCount = 3;
        RunSiblings(game);
      }},
-    {"Quirks and Flaws", RunCherryPick},
-    {"Quirks and Flaws", RunQuirksandFlaws},
+    {"Step 7: Pick Quirks and Flaws", RunCherryPick},
+    {"Step 7: Roll for Quirks and Flaws", RunQuirksandFlaws},
     {"Minor Quirk", RunMinorQuirk},
     {"Major Quirk", RunMajorQuirk},
     {"Step 8", RunStepEight},

@@ -69,7 +69,7 @@ constexpr ControlTemplate kEquipControls[] = {
     ResultAt(7, 3, kSilver, kCoinWidth),
     LabelAt(8, 2, "Copper"),
     ResultAt(8, 3, kCopper, kCoinWidth),
-    LabelAt(9, 2, "Weight"),
+    LabelAt(9, 2, "Weight, lb."),
     ResultAt(9, 3, kWeight, kCoinWidth),
     LabelWithId(11, 0, kPriceHead, "Price"),
     ResultAt(11, 0, kPrice, 12),

@@ -14,6 +14,7 @@ enum : int { kOk = 1, kAbort = 2, kLeft = 15, kEntry = 3000 };
 constexpr ControlTemplate kMoneyBPControls[] = {
     TextAt(0, 0, 0, "For every BP you spend you add 2-24 to your money roll", 54, 0, 1, 2),
     ResultAt(1, 0, kLeft, 24),
+    LabelAt(1, 1, "&BP to spend"),
     NumberAt(1, 1, kEntry),
     ButtonAt(2, 0, kOk, "&OK", ButtonRole::Default),
     ButtonAt(2, 0, kAbort, "&Abort", ButtonRole::Cancel),

@@ -109,7 +109,7 @@ constexpr std::string_view kCherryPickHelp =
     "is worth, and a refusal costs 1 BP. The picks of this page are worth nothing then.\n\n"
     "A pick from an almanac binds him to a class of that almanac; you are asked before it counts. Look at what a flaw "
     "does to the class that you have in mind. OK goes on, with none if you like.";
-constexpr FormTemplate kCherryPick{"CherryPick", kQuirksCaption, kCherryPickControls, kCherryPickHelp};
+constexpr FormTemplate kCherryPick{"CherryPick", "Step 7: Pick Quirks and Flaws", kCherryPickControls, kCherryPickHelp};
 
 /// New items for a box or list; what was selected stays so if it is still there.
 void Refill(Form& form, int id, std::vector<std::string> items) {

@@ -56,8 +56,10 @@ constexpr std::string_view kQuirksHelp =
     "shown as Potential BPs and added when the step ends. The same flaw can come twice and pay twice. Some rows the "
     "referee decides, at the end of the run.\n\n"
     "OK goes on when no roll is owed any more.";
-constexpr FormTemplate kQuirksandFlaws{"QuirksandFlaws", kQuirksCaption, kQuirksandFlawsControls, kQuirksHelp};
-constexpr FormTemplate kQuirksandFlawsMage{"QuirksandFlawsMage", kQuirksCaption, kQuirksandFlawsControls, kQuirksHelp};
+constexpr FormTemplate kQuirksandFlaws{"QuirksandFlaws", "Step 7: Roll for Quirks and Flaws",
+                                       kQuirksandFlawsControls, kQuirksHelp};
+constexpr FormTemplate kQuirksandFlawsMage{"QuirksandFlawsMage", "A Mishap: Quirks and Flaws", kQuirksandFlawsControls,
+                                           kQuirksHelp};
 
 void ShowNext(const Game& game, const QuirkWork& work, Form& form) {
   form.SetText(kNext, NextQuirkRoll(game, work, form.Selection(kTable)));

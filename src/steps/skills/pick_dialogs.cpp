@@ -25,8 +25,9 @@ constexpr int kAccept = 1;
 constexpr int kChoices = 3021;
 
 constexpr ControlTemplate kPickControls[] = {
-    ListAt(0, 0, kChoices, 44, 12),
-    ButtonAt(1, 0, kAccept, "&Accept Selection", ButtonRole::Default),
+    LabelAt(0, 0, "Choose &one"),
+    ListAt(1, 0, kChoices, 44, 12),
+    ButtonAt(2, 0, kAccept, "&Accept Selection", ButtonRole::Default),
 };
 constexpr std::string_view kFreeRemoteHelp =
     "He has earned a skill that costs no BP. Choose one of the list and press Accept Selection. It is taken as if it "

@@ -49,7 +49,7 @@ constexpr int kListLines = 17;
 constexpr int kButtonRow = kListTop + kListRows;
 
 constexpr auto kSkillsControls = [] {
-  std::array<ControlTemplate, 44> controls{};
+  std::array<ControlTemplate, 45> controls{};
   std::size_t next = 0;
   const auto add = [&](ControlTemplate control, int columnSpan = 1) {
     control.ColumnSpan = columnSpan;
@@ -60,6 +60,7 @@ constexpr auto kSkillsControls = [] {
 
   add(LabelAt(3, 0, "&Category"));
   add(ComboAt(3, 0, kCategory, 23));
+  add(LabelAt(4, 0, "Skills"));
   add(LabelAt(4, 0, "&Search"));
   add(EditAt(4, 0, kSearch, 28, 60));
   add(ListAt(kListTop, 0, kAvailable, 44, kListLines, kListRows));
