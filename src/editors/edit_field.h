@@ -60,7 +60,7 @@ template <typename Access>
 EditField NumberField(std::string_view label, Access access, int least, int most) {
   return {.Label = label,
           .What = EditField::Kind::Number,
-          .Width = most < 10'000 ? 6 : 8,
+          .Width = 8,
           .Least = least,
           .Most = most,
           .Read = [access](const Game& game) { return Format("%i", std::invoke(access, game.sheet)); },

@@ -89,8 +89,9 @@ std::size_t PartEnd(const Page& page, const Cell& cell, std::size_t from) {
   for (; end < cell.Controls.size(); ++end) {
     const ControlKind kind = page.KindOf(cell.Controls[end]);
     const ControlKind before = page.KindOf(cell.Controls[end - 1]);
+    if (kind == ControlKind::Label) break;
     if (before == ControlKind::Label) continue;
-    if (kind == ControlKind::Button || kind == ControlKind::Label || IsMark(kind) || kind == before) break;
+    if (kind == ControlKind::Button || IsMark(kind) || kind == before) break;
   }
   return end;
 }

@@ -26,7 +26,7 @@ void WrapTexts(Page& page) {
 namespace {
 
 constexpr int kNoCap = std::numeric_limits<int>::max();
-constexpr int kLeastLines = 3;  // what a list or a text keeps when the page is short of room
+constexpr int kLeastLines = 3;  // what a list keeps when the page is short of room; a text keeps one less
 
 /// The lines that a control wants, or 0 for one that has a single line by its nature.
 int WantedLines(const Page& page, std::size_t place) {
@@ -66,7 +66,8 @@ int WantedLines(const Page& page, const Cell& cell, int cap) {
   int lines = 0;
   for (std::size_t i = 0; i < cell.Controls.size(); ++i) {
     const int wanted = WantedLines(page, cell.Controls[i]);
-    const int held = CanBeCapped(page, cell.Controls[i]) ? std::min(wanted, cap) : wanted;
+    const int most = page.KindOf(cell.Controls[i]) == ControlKind::Text && cap != kNoCap ? cap - 1 : cap;
+    const int held = CanBeCapped(page, cell.Controls[i]) ? std::min(wanted, most) : wanted;
     const int above = LinesAbove(page, cell, i);
     lines = std::max(lines, above > 0 ? above + std::max(held, 1) : held);
   }

@@ -14,14 +14,6 @@ constexpr int kFrame = 1;
 constexpr int kLastLines = 2;
 constexpr int kCornerWidth = 8;  // "< Menu >"
 
-/// What a control is called: by its own text, by the labels around it, else as its page.
-std::string NameOf(const Form& form, std::size_t control) {
-  const Control& state = form.Controls()[control];
-  std::string name = HasMnemonic(state.Template.Kind) ? WithoutMnemonic(state.Text) : std::string();
-  if (name.empty()) name = ControlName(form, control);
-  return name.empty() ? form.Title() : name;
-}
-
 /// "Race, list 2 of 12: Elf, Grey, Male"
 std::string TellRows(const std::string& name, std::string_view kind, const Control& control, int row) {
   const int count = static_cast<int>(control.Items.size());
@@ -60,7 +52,8 @@ PageSize RoomForPage(int rows, int columns, int top) {
 std::string FocusLine(const Form& form, std::size_t control, int row) {
   if (control >= form.Controls().size()) return "Menu, button";
   const Control& state = form.Controls()[control];
-  const std::string name = NameOf(form, control);
+  std::string name = ControlNames(form)[control];
+  if (name.ends_with(':') || (name.ends_with('.') && !name.ends_with(".."))) name.pop_back();
   switch (state.Template.Kind) {
     case ControlKind::Edit:
     case ControlKind::Number:

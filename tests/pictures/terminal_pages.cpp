@@ -20,7 +20,20 @@ int main(int count, char** arguments) {
   std::filesystem::create_directories(folder);
   const auto missing = testing::ShowEveryForm([&](Form& form, bool isUsed) {
     testing::PtyProgram program([&] { return testing::ShowAtTerminal(form); });
-    std::ofstream(folder / (std::string(form.Name()) + (isUsed ? "-used.txt" : ".txt"))) << program.Shows();
+    const auto keep = [&](const char* what) {
+      std::ofstream(folder / (std::string(form.Name()) + what + ".txt")) << program.Shows();
+    };
+    keep(isUsed ? "-used" : "");
+    if (isUsed) return;
+    program.Press(testing::kHelpKey);
+    keep("-help");
+    program.Press(testing::kEscapeKey);
+    if (form.contextMenu.empty()) return;
+    program.Press(testing::kPageMenuKey);
+    keep("-menu");
+    program.Press(testing::kEscapeKey);
+    program.Press(testing::kMainMenuKey);
+    keep("-main-menu");
   });
   for (const std::string& name : missing) std::cerr << "not opened: " << name << '\n';
   return missing.empty() ? 0 : 1;

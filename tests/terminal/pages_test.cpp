@@ -33,7 +33,8 @@ void ExpectNothingIsCut(const Form& form, const PlacedControl& placed) {
   EXPECT_TRUE(placed.Scrolls || placed.Lines >= static_cast<int>(placed.Wrapped.size())) << text;
   if (!CanBeUsed(kind)) return;
   const std::string told = FocusLine(form, placed.Control, 0);
-  EXPECT_NE(ControlName(form, placed.Control) + text, "") << form.Name() << ": " << told;
+  const std::string name = ControlNames(form)[placed.Control];
+  EXPECT_TRUE(!name.empty() && told.starts_with(name.substr(0, name.size() - 1))) << told;
   EXPECT_TRUE(IsChosenFrom(kind) || kind == ControlKind::MultiLine || told.find(text) != std::string::npos) << told;
   if (IsChosenFrom(kind) && control.Selection >= 0) {
     EXPECT_TRUE(told.ends_with(": " + control.Items[static_cast<std::size_t>(control.Selection)])) << told;
