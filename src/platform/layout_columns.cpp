@@ -82,17 +82,19 @@ int WidthTogether(const Page& page, const Cell& cell, std::size_t from, std::siz
   return width;
 }
 
-/// Where the part ends that begins at place `from` of the cell and is not broken: what a label names stays beside it,
-/// and what is typed in or chosen beside the fields before it.
+/// True if the control at place `at` of the cell may begin a new line. What a label names stays beside it, and a label
+/// at the end, which names nothing ("years"), beside what it follows.
+bool CanBreakBefore(const Page& page, const Cell& cell, std::size_t at) {
+  const ControlKind kind = page.KindOf(cell.Controls[at]);
+  const ControlKind before = page.KindOf(cell.Controls[at - 1]);
+  if (kind == ControlKind::Label) return at + 1 < cell.Controls.size();
+  return before != ControlKind::Label && (kind == ControlKind::Button || IsMark(kind) || kind == before);
+}
+
+/// Where the part ends that begins at place `from` of the cell and is not broken.
 std::size_t PartEnd(const Page& page, const Cell& cell, std::size_t from) {
   std::size_t end = from + 1;
-  for (; end < cell.Controls.size(); ++end) {
-    const ControlKind kind = page.KindOf(cell.Controls[end]);
-    const ControlKind before = page.KindOf(cell.Controls[end - 1]);
-    if (kind == ControlKind::Label) break;
-    if (before == ControlKind::Label) continue;
-    if (kind == ControlKind::Button || IsMark(kind) || kind == before) break;
-  }
+  while (end < cell.Controls.size() && !CanBreakBefore(page, cell, end)) ++end;
   return end;
 }
 

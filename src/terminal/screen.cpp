@@ -17,6 +17,7 @@
 #include "platform/control_names.h"
 #include "platform/wrap_text.h"
 #include "terminal/cells.h"
+#include "text/utf8.h"
 
 namespace veld {
 
@@ -373,7 +374,10 @@ void Screen::ShowKeys(std::string_view keys) {
 
 void Screen::ShowText(std::string_view text, int bottom) {
   const auto width = [](std::string_view line) { return CellsOf(line); };
-  const std::vector<std::string> lines = WrapText(text, std::max(Columns() - 2, 1), width);
+  const int most = std::max(Rows() / 3, 1);
+  const auto shown = CutToBytes(text, static_cast<std::size_t>(most) * static_cast<std::size_t>(Columns()));
+  std::vector<std::string> lines = WrapText(shown, std::max(Columns() - 2, 1), width);
+  lines.resize(std::min(lines.size(), static_cast<std::size_t>(most)));
   const int top = Rows() - 1 - static_cast<int>(lines.size());
   int y = top < bottom && lines.size() > 1 ? 0 : top;
   for (const std::string& line : lines) Put(y++, 0, " " + line, Columns(), Ink::Bar);

@@ -99,8 +99,8 @@ class Screen {
   void ScrollBar(int y, int x, int height, int first, int total, Ink ink);
   void SetCursor(int y, int x);
   void ShowKeys(std::string_view keys);  ///< in the last line
-  /// Shows a text in the line above that, and in as many lines more as it takes; at the top of the screen if it would
-  /// reach over line `bottom` from below.
+  /// Shows a text in the line above that, and in as many lines more as it takes, up to a third of the screen; at the
+  /// top of the screen if it would reach over a line above `bottom`.
   void ShowText(std::string_view text, int bottom);
   void Beep();
 

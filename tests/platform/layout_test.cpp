@@ -181,6 +181,31 @@ TEST(Layout, TextOfNoWantedHeightTakesTheLinesThatItNeeds) {
   EXPECT_EQ(longer.Page.Height, page.Page.Height + 2 * m.Pitch);
 }
 
+TEST(Layout, ARowThatIsTooLongGoesOnInTheNextLineAndPartsNoLabelFromItsField) {
+  constexpr ControlTemplate kLongRows[] = {
+      LabelAt(0, 0, "A caption of the whole page that is far too long for it", 2),
+      LabelAt(1, 0, "Name"), EditAt(1, 0, 20, 20), LabelAt(1, 0, "Age"), NumberAt(1, 0, 21), LabelAt(1, 0, "years"),
+      ListAt(1, 1, 22, 30, 3), ButtonAt(2, 0, 1, "One button"), ButtonAt(2, 0, 2, "Another"),
+      ButtonAt(2, 0, 3, "And the third"), ResultAt(3, 0, 23, 4, "A result that is wider than the page can be")};
+  const Form form(FormTemplate{"Rows", "Rows", kLongRows, ""});
+  PageMetrics m = Terminal();
+  m.WrapsResults = true;
+  const auto placed = [&](const PageLayout& page, std::size_t control) { return page.Controls[control]; };
+  const PageLayout wide = NaturalLayout(form, m);
+  EXPECT_EQ(placed(wide, 9).Baseline, placed(wide, 7).Baseline) << "nothing is broken that fits";
+  const PageLayout page = NaturalLayout(form, m, {40, 20});
+  ExpectGoodPage(form, page, m);
+  EXPECT_EQ(page.Page, (PageSize{40, 9}));
+  EXPECT_EQ(placed(page, 0).Wrapped.size(), 2U);
+  EXPECT_EQ(placed(page, 2).Baseline, placed(page, 1).Baseline);
+  EXPECT_EQ(placed(page, 3).Area.X, placed(page, 1).Area.X) << "Age begins a line";
+  EXPECT_EQ(placed(page, 5).Baseline, placed(page, 3).Baseline) << "years stands beside its number";
+  EXPECT_EQ(placed(page, 8).Baseline, placed(page, 7).Baseline);
+  EXPECT_EQ(placed(page, 9).Baseline, placed(page, 7).Baseline + 1);
+  EXPECT_EQ(placed(page, 10).Wrapped.size(), 2U);
+  for (int width = 79; width > 36; --width) ExpectGoodPage(form, NaturalLayout(form, m, {width, 30}), m);
+}
+
 TEST(Layout, HiddenControlsTakeNoRoom) {
   Form form(kTemplate);
   const PageMetrics m = Desktop();
