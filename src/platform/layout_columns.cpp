@@ -117,7 +117,8 @@ int NaturalWidth(const Page& page, const Cell& cell) {
 
 namespace {
 
-/// What a place keeps on a narrow page: of several controls, all of those that can not shrink and a little of the others.
+/// What a place keeps on a narrow page: of several controls, all of those that can not shrink and a little of the
+/// others.
 int LeastWidth(const Page& page, const Cell& cell) {
   return cell.Controls.size() == 1 ? 0 : CellWidth(page, cell, page.breaksRows, LeastWidth);
 }

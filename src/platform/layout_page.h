@@ -64,8 +64,8 @@ struct Page {
   std::vector<PlacedControl> placed = {};  ///< one for each control of the form, visible or not
   int firstLine = 0;                       ///< lines kept free for the menu's button above the first row
   bool isRoomy = true;
-  bool hasBlanks = true;  ///< blank lines above headings and for row numbers left out
-  bool scrolls = false;   ///< it has more lines than there is room for, however short its lists are
+  bool hasBlanks = true;    ///< blank lines above headings and for row numbers left out
+  bool scrolls = false;     ///< it has more lines than there is room for, however short its lists are
   bool breaksRows = false;  ///< rows of several controls go on in the next line
 
   const Control& At(std::size_t control) const { return form.Controls()[control]; }

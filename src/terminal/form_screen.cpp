@@ -52,11 +52,7 @@ int Count(const std::vector<std::string>& lines) {
 }  // namespace
 
 FormScreen::FormScreen(Form& form, Screen& screen, Place place, std::string_view lettersOfMainMenu)
-    : form_(form),
-      screen_(screen),
-      place_(place),
-      takenLetters_(lettersOfMainMenu),
-      metrics_(TerminalMetrics(form)) {
+    : form_(form), screen_(screen), place_(place), takenLetters_(lettersOfMainMenu), metrics_(TerminalMetrics(form)) {
   if (!form.contextMenu.empty()) takenLetters_ += 'm';
   form_.SetObserver(this);
 }

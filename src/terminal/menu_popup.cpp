@@ -72,7 +72,8 @@ void MenuPopup::Draw(bool isActive) {
   screen_.SetCursor(area_.Y + 1 + row_ - first_, area_.X + 2);
   const MenuItem& item = Item();
   const std::string_view kind = !item.Enabled ? "not to be chosen now" : item.Items.empty() ? "" : "menu";
-  screen_.ShowText(WithoutMnemonic(item.Text) + (kind.empty() ? "" : ", ") + std::string(kind), area_.Y + 2 + row_ - first_);
+  screen_.ShowText(WithoutMnemonic(item.Text) + (kind.empty() ? "" : ", ") + std::string(kind),
+                   area_.Y + 2 + row_ - first_);
   screen_.ShowKeys("Up/Down choose  Enter take  Left/Right other menus  Esc leave");
 }
 

@@ -105,7 +105,8 @@ std::string Base64(std::string_view bytes) {
   for (std::size_t at = 0; at < bytes.size(); at += 3) {
     const std::size_t held = std::min<std::size_t>(bytes.size() - at, 3);
     unsigned three = 0;
-    for (std::size_t i = 0; i < 3; ++i) three = three << 8 | (i < held ? static_cast<unsigned char>(bytes[at + i]) : 0U);
+    for (std::size_t i = 0; i < 3; ++i)
+      three = three << 8 | (i < held ? static_cast<unsigned char>(bytes[at + i]) : 0U);
     for (std::size_t i = 0; i < 4; ++i) letters += i <= held ? kLetters[three >> (18 - 6 * i) & 63] : '=';
   }
   return letters;

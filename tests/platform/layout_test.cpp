@@ -182,11 +182,17 @@ TEST(Layout, TextOfNoWantedHeightTakesTheLinesThatItNeeds) {
 }
 
 TEST(Layout, ARowThatIsTooLongGoesOnInTheNextLineAndPartsNoLabelFromItsField) {
-  constexpr ControlTemplate kLongRows[] = {
-      LabelAt(0, 0, "A caption of the whole page that is far too long for it", 2),
-      LabelAt(1, 0, "Name"), EditAt(1, 0, 20, 20), LabelAt(1, 0, "Age"), NumberAt(1, 0, 21), LabelAt(1, 0, "years"),
-      ListAt(1, 1, 22, 30, 3), ButtonAt(2, 0, 1, "One button"), ButtonAt(2, 0, 2, "Another"),
-      ButtonAt(2, 0, 3, "And the third"), ResultAt(3, 0, 23, 4, "A result that is wider than the page can be")};
+  constexpr ControlTemplate kLongRows[] = {LabelAt(0, 0, "A caption of the whole page that is far too long for it", 2),
+                                           LabelAt(1, 0, "Name"),
+                                           EditAt(1, 0, 20, 20),
+                                           LabelAt(1, 0, "Age"),
+                                           NumberAt(1, 0, 21),
+                                           LabelAt(1, 0, "years"),
+                                           ListAt(1, 1, 22, 30, 3),
+                                           ButtonAt(2, 0, 1, "One button"),
+                                           ButtonAt(2, 0, 2, "Another"),
+                                           ButtonAt(2, 0, 3, "And the third"),
+                                           ResultAt(3, 0, 23, 4, "A result that is wider than the page can be")};
   const Form form(FormTemplate{"Rows", "Rows", kLongRows, ""});
   PageMetrics m = Terminal();
   m.WrapsResults = true;

@@ -4,7 +4,8 @@
 
 namespace veld::testing {
 
-/// Shows a form at the terminal of this process, as the program does - Step 3 beside the main window - until it is left.
+/// Shows a form at the terminal of this process, as the program does - Step 3 beside the main window - until it is
+/// left.
 int ShowAtTerminal(Form& form);
 
 }  // namespace veld::testing
