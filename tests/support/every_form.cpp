@@ -187,8 +187,10 @@ void VisitRareForms(Visitor& player) {
   PickBardInstrument(game);
   RunTraining(game);
   RunFreeSpellSellection(game, FreeSpellKind::AnyLevel);
-  sheet.PackageName = "Mystic";
-  ApplyPackage(game);
+  for (const char* package : {"Mystic", "Rustic Magic-User"}) {
+    sheet.PackageName = package;
+    ApplyPackage(game);
+  }
   game.run.CurrentStep = kMishapStep;
   constexpr std::string_view kMishapTables[] = {kTable6B, kTable6B};
   RunQuirksandFlawsMage(game, kMishapTables);
