@@ -64,6 +64,7 @@ constexpr int kMostInches = 9'999;
 constexpr int kMostPounds = 99'999;
 constexpr int kMostWhole = 99;
 constexpr int kMostCount = 9'999;
+constexpr int kCountWidth = 6;  // where two columns of long names stand side by side
 
 // ---- What a value does elsewhere ----
 
@@ -457,6 +458,7 @@ void RunEditStanding(Game& game) {
       MarkField("Counts as a thief", &Sheet::IsThiefClass),
       MarkField("Counts as a cleric", &Sheet::IsClericClass),
   };
+  for (EditField& field : page.Fields) field.Width = kCountWidth;
   page.Told = [](Game&) {
     return std::string(
         "Honor Die, slots, movement and a Barbarian's numbers follow from race, class and level wherever their tables "

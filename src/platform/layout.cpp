@@ -56,6 +56,11 @@ PageSize FitPage(Page& page, PageSize available, bool stretches) {
   const int wanted = WidthWithCorner(page);
   const int width = stretches ? std::max(available.Width - margins, 0) : std::min(wanted, available.Width - margins);
   StretchColumns(page, width - ContentWidth(page));
+  if (!FitsAcross(page, width)) {
+    page.breaksRows = true;
+    MeasureColumns(page);
+    StretchColumns(page, width - ContentWidth(page));
+  }
   PlaceColumns(page);
   WrapTexts(page);
   const int lines = FitRows(page, available.Height);

@@ -63,6 +63,7 @@ struct PageMetrics {
   int FrameAbove = 0;         ///< how far the frame of a list reaches into the line above; that much a text leaves free
   int CornerWidth = 0;        ///< of the buttons in the page's upper right corner, as of the form's menu; 0: none
   bool IsCornerFlat = false;  ///< they are all mere words, which keep within their line
+  bool WrapsResults = false;  ///< a result that is wider than its place goes on in the next line; else its end is cut
   PageDensity Roomy;
   PageDensity Dense;
 };
@@ -91,7 +92,9 @@ PageSize NaturalPageSize(const Form& form, const PageMetrics& metrics, PageSize 
 
 /// Places every visible control of the form so that the baseline of each line of text sits on a rule of the page. Rows
 /// stand roomy when that fits `available`, else densely. What is available beyond the natural size goes to lists and
-/// texts, and what is missing is taken from them; a page that is still too big keeps its size, and must be scrolled.
+/// texts, and what is missing is taken from them. Where that is not enough, a row of several controls goes on in the
+/// next line: a button is never cut, and what a label names stays beside it. A page that is still too big keeps its
+/// size, and must be scrolled.
 PageLayout LayOutPage(const Form& form, const PageMetrics& metrics, PageSize available);
 
 /// The page's y of rule `line` (0 is the first): text of that line stands above it.

@@ -26,16 +26,19 @@ struct Cell {
   int RowSpan = 1;
   int ColumnSpan = 1;
   std::vector<std::size_t> Controls = {};
+  std::vector<int> Lines = {};  ///< of each control the line in which it stands, where they do not fit side by side
   bool IsFree = false;  ///< its width may lie over the empty places to its right without widening its own column
 
   int LastRow() const { return Row + RowSpan - 1; }
   int LastColumn() const { return Column + ColumnSpan - 1; }
+  int LineOf(std::size_t place) const { return place < Lines.size() ? Lines[place] : 0; }
 };
 
 struct Column {
   bool IsUsed = false;
   bool CanStretch = false;
   bool CanShrink = false;
+  bool IsOfText = false;  ///< all in it that can shrink are texts
   int Width = 0;
   int Least = 0;        ///< what it keeps when the page is narrow
   int ButtonWidth = 0;  ///< of the buttons that stand alone in their places, so that they are all of one width
@@ -61,8 +64,9 @@ struct Page {
   std::vector<PlacedControl> placed = {};  ///< one for each control of the form, visible or not
   int firstLine = 0;                       ///< lines kept free for the menu's button above the first row
   bool isRoomy = true;
-  bool hasBlanks = true;  ///< blank lines above headings and for row numbers left out
-  bool scrolls = false;   ///< it has more lines than there is room for, however short its lists are
+  bool hasBlanks = true;    ///< blank lines above headings and for row numbers left out
+  bool scrolls = false;     ///< it has more lines than there is room for, however short its lists are
+  bool breaksRows = false;  ///< rows of several controls go on in the next line
 
   const Control& At(std::size_t control) const { return form.Controls()[control]; }
   ControlKind KindOf(std::size_t control) const { return At(control).Template.Kind; }
@@ -80,6 +84,9 @@ void MakeGrid(Page& page);
 
 /// Gives the columns the widths that their controls want: first those of one column, then those that span several.
 void MeasureColumns(Page& page);
+/// True if the page is no wider than `width` and no row is cut.
+bool FitsAcross(const Page& page, int width);
+/// Gives the controls their places and widths across, and breaks rows that are too long if the page does so.
 void PlaceColumns(Page& page);
 /// Shares out `extra` width among the columns of lists and texts; if it is negative, takes it from all that can do with
 /// less, and what one column can not give from the others.

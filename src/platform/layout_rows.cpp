@@ -11,11 +11,13 @@ void WrapTexts(Page& page) {
       const Control& control = page.At(place);
       const ControlKind kind = control.Template.Kind;
       const bool isCaption = IsWriting(kind) && kind != ControlKind::Result;
-      const bool isOfSeveral = IsWriting(kind) && (control.Template.Lines > 1 ||
-                                                   (isCaption && control.Text.find('\n') != std::string::npos));
-      if (kind != ControlKind::Text && !isOfSeveral) continue;
-      PlacedControl& placed = page.placed[place];
       const auto width = [&](std::string_view line) { return page.metrics.TextWidth(line, FaceOf(kind)); };
+      PlacedControl& placed = page.placed[place];
+      const bool isOfSeveral =
+          IsWriting(kind) && (control.Template.Lines > 1 ||
+                              (isCaption && (page.breaksRows || control.Text.find('\n') != std::string::npos)) ||
+                              (page.metrics.WrapsResults && width(ShownText(control)) > placed.Area.Width));
+      if (kind != ControlKind::Text && !isOfSeveral) continue;
       placed.Wrapped = WrapText(ShownText(control), placed.Area.Width, width);
     }
   }
@@ -24,7 +26,7 @@ void WrapTexts(Page& page) {
 namespace {
 
 constexpr int kNoCap = std::numeric_limits<int>::max();
-constexpr int kLeastLines = 3;  // what a list or a text keeps when the page is short of room
+constexpr int kLeastLines = 3;  // what a list keeps when the page is short of room; a text keeps one less
 
 /// The lines that a control wants, or 0 for one that has a single line by its nature.
 int WantedLines(const Page& page, std::size_t place) {
@@ -37,7 +39,8 @@ int WantedLines(const Page& page, std::size_t place) {
     case ControlKind::Text:
       return control.Lines > 0 ? control.Lines : wrapped;
     case ControlKind::Result:
-      return wrapped > 0 ? control.Lines : 0;
+      if (wrapped == 0) return 0;
+      return page.metrics.WrapsResults ? std::max(control.Lines, wrapped) : control.Lines;
     case ControlKind::Title:
     case ControlKind::Heading:
     case ControlKind::Label:
@@ -54,11 +57,19 @@ bool CanBeCapped(const Page& page, std::size_t place) {
   return Stretches(control.Kind) && !(page.scrolls && control.Kind == ControlKind::Text && control.Lines == 0);
 }
 
+/// How far below its first line the control at a place of the cell stands, where the row is broken.
+int LinesAbove(const Page& page, const Cell& cell, std::size_t place) {
+  return cell.LineOf(place) * (page.HasKind(cell, IsBox) ? page.Density().BoxLines : 1);
+}
+
 int WantedLines(const Page& page, const Cell& cell, int cap) {
   int lines = 0;
-  for (const std::size_t control : cell.Controls) {
-    const int wanted = WantedLines(page, control);
-    lines = std::max(lines, CanBeCapped(page, control) ? std::min(wanted, cap) : wanted);
+  for (std::size_t i = 0; i < cell.Controls.size(); ++i) {
+    const int wanted = WantedLines(page, cell.Controls[i]);
+    const int most = page.KindOf(cell.Controls[i]) == ControlKind::Text && cap != kNoCap ? cap - 1 : cap;
+    const int held = CanBeCapped(page, cell.Controls[i]) ? std::min(wanted, most) : wanted;
+    const int above = LinesAbove(page, cell, i);
+    lines = std::max(lines, above > 0 ? above + std::max(held, 1) : held);
   }
   return lines;
 }
@@ -141,7 +152,7 @@ int PlanRows(Page& page, int cap) {
       above = place;
       isAfterBlank = false;
     } else if (!row.IsKnown && above) {  // a row number left out is a blank line
-      row.Lines = row.IsCovered || (page.hasBlanks && !isAfterBlank) ? 1 : 0;
+      row.Lines = page.hasBlanks && (row.IsCovered || !isAfterBlank) ? 1 : 0;
       isAfterBlank = true;
     }
   }
@@ -229,12 +240,14 @@ void PlaceDown(Page& page, const Cell& cell) {
   const PageMetrics& m = page.metrics;
   const PageDensity& density = page.Density();
   const Row& row = page.RowAt(cell.Row);
-  const int top = m.MarginTop + (row.Top + row.TextLine) * m.Pitch;
-  for (const std::size_t place : cell.Controls) {
+  for (std::size_t i = 0; i < cell.Controls.size(); ++i) {
+    const std::size_t place = cell.Controls[i];
+    const int above = LinesAbove(page, cell, i);
+    const int top = m.MarginTop + (row.Top + row.TextLine + above) * m.Pitch;
     const ControlKind kind = page.KindOf(place);
     PlacedControl& placed = page.placed[place];
     const int wanted = std::max(WantedLines(page, place), 1);
-    const int given = std::max(LinesBetween(page, cell.Row, cell.LastRow()), 1);
+    const int given = std::max(LinesBetween(page, cell.Row, cell.LastRow()) - above, 1);
     const bool fills = Stretches(kind) && (kind != ControlKind::Text || page.At(place).Template.Lines > 0);
     placed.Lines = fills ? given : std::min(wanted, given);
     placed.Baseline = top + m.Baseline;

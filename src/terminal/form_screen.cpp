@@ -10,6 +10,7 @@
 #include "platform/mnemonics.h"
 #include "terminal/cells.h"
 #include "terminal/menu_popup.h"
+#include "terminal/terminal_page.h"
 #include "text/format.h"
 #include "text/search.h"
 
@@ -18,7 +19,6 @@ namespace veld {
 namespace {
 
 constexpr int kFrame = 1;
-constexpr int kCornerWidth = 8;     // "< Menu >"
 constexpr int kSearchPause = 1000;  // milliseconds after which the letters typed in a list begin anew
 constexpr int kSidewaysStep = 8;    // cells that an arrow moves a list's rows
 constexpr std::string_view kCornerText = "< &Menu >";
@@ -26,23 +26,6 @@ constexpr std::string_view kCornerText = "< &Menu >";
 // What the line of keys does without when it is too long, the first of them first.
 constexpr std::string_view kKnownKeys[] = {"Alt+letter", "PgUp/PgDn scroll", "Space open",
                                            "Tab",        "Up/Down choose",   "F1 Help"};
-
-PageMetrics TerminalMetrics(bool hasMenu) {
-  PageMetrics m;
-  m.TextWidth = [](std::string_view line, TextFace) { return CellsOf(line); };
-  m.MarginLeft = 1;
-  m.MarginRight = 1;
-  m.ColumnGap = 2;
-  m.ControlGap = 2;
-  m.ButtonPadding = 2;  // "< OK >"
-  m.EditPadding = 2;    // "[...]"
-  m.ComboPadding = 4;   // "[... v]"
-  m.ListPadding = 2;    // its edges; the right one is the scroll bar
-  m.MarkWidth = 4;      // "[x] "
-  m.CornerWidth = hasMenu ? kCornerWidth : 0;
-  m.Roomy = {.BoxLines = 2, .TitleLines = 2};  // a blank line above buttons and fields, and under the title
-  return m;
-}
 
 /// The `line`th of the lines that a control shows.
 std::string_view LineAt(const PlacedControl& placed, const Control& control, int line) {
@@ -69,11 +52,7 @@ int Count(const std::vector<std::string>& lines) {
 }  // namespace
 
 FormScreen::FormScreen(Form& form, Screen& screen, Place place, std::string_view lettersOfMainMenu)
-    : form_(form),
-      screen_(screen),
-      place_(place),
-      takenLetters_(lettersOfMainMenu),
-      metrics_(TerminalMetrics(!form.contextMenu.empty())) {
+    : form_(form), screen_(screen), place_(place), takenLetters_(lettersOfMainMenu), metrics_(TerminalMetrics(form)) {
   if (!form.contextMenu.empty()) takenLetters_ += 'm';
   form_.SetObserver(this);
 }
@@ -88,7 +67,7 @@ FormScreen::~FormScreen() {
 /// Lays the page out for the room that there is, if either has changed.
 void FormScreen::LayOut() {
   const int top = place_ == Place::Window ? 1 : 0;
-  const PageSize room{std::max(screen_.Columns() - 2 * kFrame, 1), std::max(screen_.Rows() - 1 - top - 2 * kFrame, 1)};
+  const PageSize room = RoomForPage(screen_.Rows(), screen_.Columns(), top);
   if (room != room_) grown_ = {};
   if (isLaidOut_ && room == room_) return;
   room_ = room;
@@ -101,7 +80,7 @@ void FormScreen::LayOut() {
   marked_ = MarkMnemonics(form_, takenLetters_);
   const int width = grown_.Width + 2 * kFrame;
   const int height = grown_.Height + 2 * kFrame;
-  frame_ = {(screen_.Columns() - width) / 2, top + (screen_.Rows() - 1 - top - height) / 2, width, height};
+  frame_ = {(screen_.Columns() - width) / 2, top + (room.Height - grown_.Height) / 2, width, height};
   view_ = {frame_.X + kFrame, frame_.Y + kFrame, grown_.Width, grown_.Height};
 }
 
@@ -142,7 +121,10 @@ void FormScreen::Draw(bool isActive) {
   for (const PlacedControl& placed : page_.Controls) DrawControl(placed);
   if (!form_.contextMenu.empty()) DrawCorner();
   screen_.ClearClip();
-  if (isActive) screen_.ShowKeys(KeysLine());
+  if (isActive) {
+    ShowFocusLine();
+    screen_.ShowKeys(KeysLine());
+  }
 }
 
 void FormScreen::DrawControl(const PlacedControl& placed) {
@@ -211,13 +193,13 @@ void FormScreen::DrawEdit(const PlacedControl& placed, bool isFocus) {
   view.Left = std::clamp(view.Left, std::max(cursor - width + 1, 0), cursor);
   const Ink edge = control.Enabled ? Ink::Paper : Ink::Faint;
   const bool isMarked = isFocus && view.IsChosen && !control.Text.empty();
-  screen_.Put(y, x, "[", 1, isFocus ? Ink::Bold : edge);
+  screen_.Put(y, x, "[", 1, isFocus ? Ink::Focus : edge);
   screen_.Put(y, x + 1, control.Text, width, control.Enabled ? Ink::Written : Ink::Faint, view.Left);
   const int used = std::clamp(CellsOf(control.Text) - view.Left, 0, width);
   if (isMarked) screen_.Put(y, x + 1, control.Text, used, Ink::Focus, view.Left);
   if (used < width)
     screen_.Put(y, x + 1 + used, std::string(static_cast<std::size_t>(width - used), '_'), width - used, edge);
-  screen_.Put(y, x + 1 + width, "]", 1, isFocus ? Ink::Bold : edge);
+  screen_.Put(y, x + 1 + width, "]", 1, isFocus ? Ink::Focus : edge);
   if (isFocus) screen_.SetCursor(y, x + 1 + cursor - view.Left);
 }
 
@@ -241,7 +223,7 @@ void FormScreen::DrawMultiLine(const PlacedControl& placed, bool isFocus) {
     }
     screen_.Put(ScreenY(area.Y + line), x + 1, text, width, control.Enabled ? Ink::Written : Ink::Faint);
   }
-  screen_.VerticalLine(ScreenY(area.Y), x, placed.Lines, isFocus ? Ink::Bold : Ink::Paper);
+  screen_.VerticalLine(ScreenY(area.Y), x, placed.Lines, isFocus ? Ink::Focus : Ink::Paper);
   screen_.ScrollBar(ScreenY(area.Y), ScreenX(area.Right() - 1), placed.Lines, view.First, total, Ink::Paper);
   if (!isFocus) return;
   const std::size_t begin = lines[static_cast<std::size_t>(cursorLine)].Begin;
@@ -261,7 +243,7 @@ void FormScreen::DrawList(const PlacedControl& placed, bool isFocus) {
   const PageRect& area = placed.Area;
   const int x = ScreenX(area.X);
   const int width = area.Width - metrics_.ListPadding;
-  screen_.VerticalLine(ScreenY(area.Y), x, lines, Ink::Paper);
+  screen_.VerticalLine(ScreenY(area.Y), x, lines, isFocus ? Ink::Focus : Ink::Paper);
   screen_.ScrollBar(ScreenY(area.Y), ScreenX(area.Right() - 1), lines, view.First, total, Ink::Paper);
   for (int line = 0; line < lines; ++line) {
     const int row = view.First + line;
@@ -271,9 +253,9 @@ void FormScreen::DrawList(const PlacedControl& placed, bool isFocus) {
     Ink ink = control.Enabled ? Ink::Paper : Ink::Faint;
     if (isChosen) ink = isFocus ? Ink::Focus : Ink::Chosen;
     screen_.Put(y, x + 1, text, width, ink, view.Left, true);
-    if (isChosen) screen_.Put(y, x, ">", 1, Ink::Bold);
+    if (isChosen) screen_.Put(y, x, ">", 1, isFocus ? Ink::Focus : Ink::Bold);
     if (isFocus && row == view.Row) screen_.SetCursor(y, x + (isChosen ? 0 : 1));
-    if (isFocus && row == view.Row && !isChosen) screen_.Put(y, x, "-", 1, Ink::Bold);
+    if (isFocus && row == view.Row && !isChosen) screen_.Put(y, x, "-", 1, Ink::Focus);
   }
   if (isFocus && total == 0) screen_.SetCursor(ScreenY(area.Y), x + 1);
 }
@@ -288,9 +270,9 @@ void FormScreen::DrawCombo(const PlacedControl& placed, bool isFocus) {
   const int width = placed.Area.Width - metrics_.ComboPadding;
   const Ink ink = isFocus ? Ink::Focus : control.Enabled ? Ink::Written : Ink::Faint;
   const Ink edge = control.Enabled ? Ink::Paper : Ink::Faint;
-  screen_.Put(y, x, "[", 1, isFocus ? Ink::Bold : edge);
+  screen_.Put(y, x, "[", 1, isFocus ? Ink::Focus : edge);
   screen_.Put(y, x + 1, text, width, ink, 0, true);
-  screen_.Put(y, x + 1 + width, " v]", 3, isFocus ? Ink::Bold : edge);
+  screen_.Put(y, x + 1 + width, " v]", 3, isFocus ? Ink::Focus : edge);
   if (isFocus) screen_.SetCursor(y, x + 1);
 }
 
@@ -344,8 +326,17 @@ void FormScreen::DrawCorner() {
   const bool isFocus = focus_ == Corner();
   const int y = ScreenY(page_.Corner.Y);
   const int x = ScreenX(page_.Corner.X);
-  screen_.PutMarked(y, x, kCornerText, kCornerWidth, isFocus ? Ink::Focus : Ink::Paper);
+  screen_.PutMarked(y, x, kCornerText, metrics_.CornerWidth, isFocus ? Ink::Focus : Ink::Paper);
   if (isFocus) screen_.SetCursor(y, x + 2);
+}
+
+/// Tells what the keys go to in the line above that of the keys, and in the lines above it if it is long; at the top of
+/// the screen if it would lie over the control itself.
+void FormScreen::ShowFocusLine() {
+  const std::string text = FocusLine(form_, focus_, focus_ < Corner() ? views_[focus_].Row : 0);
+  const PlacedControl* placed = focus_ < Corner() ? PlacedAt(focus_) : nullptr;
+  const int bottom = placed ? ScreenY(placed->Area.Bottom()) : 0;
+  screen_.ShowText(text, bottom);
 }
 
 /// The keys that do something now, as many of them as the line holds.

@@ -17,7 +17,7 @@ namespace veld {
 /// the page is drawn from the form's state.
 class FormScreen : public Layer, private FormObserver {
  public:
-  /// A dialog has the whole screen but the line of keys; a window leaves the menu bar free too. `form` outlives it.
+  /// A dialog has the whole screen but the last two lines; a window leaves the menu bar free too. `form` outlives it.
   enum class Place : std::uint8_t { Dialog, Window };
   FormScreen(Form& form, Screen& screen, Place place, std::string_view lettersOfMainMenu = {});
   ~FormScreen() override;
@@ -59,6 +59,7 @@ class FormScreen : public Layer, private FormObserver {
   void DrawMark(const PlacedControl& placed, bool isFocus);
   void DrawProgress(const PlacedControl& placed);
   void DrawCorner();
+  void ShowFocusLine();
   std::string KeysLine() const;
   int ScreenX(int x) const { return view_.X + x - scrollX_; }
   int ScreenY(int y) const { return view_.Y + y - scrollY_; }

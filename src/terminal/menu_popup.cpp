@@ -32,7 +32,7 @@ class MenuPopup : public Layer {
   int LastRow() const { return std::max(static_cast<int>(items_.size()) - 1, 0); }
   const MenuItem& Item() const { return items_[static_cast<std::size_t>(row_)]; }
   int Height() const {
-    return std::clamp(static_cast<int>(items_.size()) + kFrame, 3, std::max(screen_.Rows() - 1, 3));
+    return std::clamp(static_cast<int>(items_.size()) + kFrame, 3, std::max(screen_.Rows() - 2, 3));
   }
   void Move(int rows);
   bool TakeLetter(char32_t letter);
@@ -50,7 +50,7 @@ class MenuPopup : public Layer {
 void MenuPopup::Draw(bool isActive) {
   const int width = MenuWidth(items_, screen_.Columns());
   area_ = {std::max(std::min(wantedX_, screen_.Columns() - width), 0),
-           std::max(std::min(wantedY_, screen_.Rows() - 1 - Height()), 0), width, Height()};
+           std::max(std::min(wantedY_, screen_.Rows() - 2 - Height()), 0), width, Height()};
   const int shown = area_.Height - kFrame;
   first_ = std::clamp(first_, row_ - shown + 1, row_);
   screen_.Frame(area_, {}, Ink::Paper);
@@ -70,6 +70,10 @@ void MenuPopup::Draw(bool isActive) {
   }
   if (!isActive) return;
   screen_.SetCursor(area_.Y + 1 + row_ - first_, area_.X + 2);
+  const MenuItem& item = Item();
+  const std::string_view kind = !item.Enabled ? "not to be chosen now" : item.Items.empty() ? "" : "menu";
+  screen_.ShowText(WithoutMnemonic(item.Text) + (kind.empty() ? "" : ", ") + std::string(kind),
+                   area_.Y + 2 + row_ - first_);
   screen_.ShowKeys("Up/Down choose  Enter take  Left/Right other menus  Esc leave");
 }
 

@@ -15,7 +15,9 @@
 #include <cstdlib>
 
 #include "platform/control_names.h"
+#include "platform/wrap_text.h"
 #include "terminal/cells.h"
+#include "text/utf8.h"
 
 namespace veld {
 
@@ -103,7 +105,8 @@ std::string Base64(std::string_view bytes) {
   for (std::size_t at = 0; at < bytes.size(); at += 3) {
     const std::size_t held = std::min<std::size_t>(bytes.size() - at, 3);
     unsigned three = 0;
-    for (std::size_t i = 0; i < 3; ++i) three = three << 8 | (i < held ? static_cast<unsigned char>(bytes[at + i]) : 0U);
+    for (std::size_t i = 0; i < 3; ++i)
+      three = three << 8 | (i < held ? static_cast<unsigned char>(bytes[at + i]) : 0U);
     for (std::size_t i = 0; i < 4; ++i) letters += i <= held ? kLetters[three >> (18 - 6 * i) & 63] : '=';
   }
   return letters;
@@ -368,6 +371,17 @@ void Screen::SetCursor(int y, int x) {
 
 void Screen::ShowKeys(std::string_view keys) {
   Put(Rows() - 1, 0, " " + std::string(keys), Columns(), Ink::Bar, 0, true);
+}
+
+void Screen::ShowText(std::string_view text, int bottom) {
+  const auto width = [](std::string_view line) { return CellsOf(line); };
+  const int most = std::max(Rows() / 3, 1);
+  const auto shown = CutToBytes(text, static_cast<std::size_t>(most) * static_cast<std::size_t>(Columns()));
+  std::vector<std::string> lines = WrapText(shown, std::max(Columns() - 2, 1), width);
+  lines.resize(std::min(lines.size(), static_cast<std::size_t>(most)));
+  const int top = Rows() - 1 - static_cast<int>(lines.size());
+  int y = top < bottom && lines.size() > 1 ? 0 : top;
+  for (const std::string& line : lines) Put(y++, 0, " " + line, Columns(), Ink::Bar);
 }
 
 void Screen::Beep() {

@@ -50,7 +50,7 @@ enum class Ink : std::uint8_t {
   Faint,     ///< what can not be used
   Chosen,    ///< the row chosen in a list that the keys do not go to
   Focus,     ///< what the keys go to
-  Bar,       ///< the menu bar and the line of keys
+  Bar,       ///< the menu bar, the line of keys and that of the focus
   BarFocus,  ///< the open menu of the bar
 };
 
@@ -99,6 +99,9 @@ class Screen {
   void ScrollBar(int y, int x, int height, int first, int total, Ink ink);
   void SetCursor(int y, int x);
   void ShowKeys(std::string_view keys);  ///< in the last line
+  /// Shows a text in the line above that, and in as many lines more as it takes, up to a third of the screen; at the
+  /// top of the screen if it would reach over a line above `bottom`.
+  void ShowText(std::string_view text, int bottom);
   void Beep();
 
   /// Asks the terminal to put a text on its clipboard; whether it does so it does not tell. False if it is lost.

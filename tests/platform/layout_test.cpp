@@ -7,10 +7,12 @@
 #include "platform/control_names.h"
 #include "platform/mnemonics.h"
 #include "platform/wrap_text.h"
+#include "support/good_page.h"
 
 namespace veld {
 namespace {
 
+using testing::ExpectGoodPage;
 using Lines = std::vector<std::string>;
 
 /// A desktop's metrics with letters of 7 pixels.
@@ -80,32 +82,6 @@ constexpr FormTemplate kTemplate{"Everything", "Everything", kControls, ""};
 const PlacedControl& Find(const PageLayout& page, const Form& form, int id) {
   return *std::ranges::find_if(page.Controls,
                                [&](const PlacedControl& p) { return form.Controls()[p.Control].Template.Id == id; });
-}
-
-bool Overlap(const PageRect& a, const PageRect& b) {
-  return a.X < b.Right() && b.X < a.Right() && a.Y < b.Bottom() && b.Y < a.Bottom();
-}
-
-/// What holds for every page: nothing overlaps, all is on the page, every line stands on a rule.
-void ExpectGoodPage(const Form& form, const PageLayout& page, const PageMetrics& m) {
-  std::vector<PageRect> areas;
-  if (m.CornerWidth > 0) areas.push_back(page.Corner);
-  for (const PlacedControl& placed : page.Controls) {
-    const std::string which =
-        form.Controls()[placed.Control].Text + "/" + std::to_string(form.Controls()[placed.Control].Template.Id);
-    const PageRect& area = placed.Area;
-    EXPECT_EQ((placed.Baseline - m.MarginTop - m.Baseline) % m.Pitch, 0) << which;
-    EXPECT_GE(area.X, m.MarginLeft) << which;
-    EXPECT_GE(area.Y, 0) << which;
-    EXPECT_LE(area.Right(), page.Page.Width - m.MarginRight) << which;
-    EXPECT_LE(area.Bottom(), page.Page.Height) << which;
-    EXPECT_GT(area.Width, 0) << which;
-    EXPECT_GT(area.Height, 0) << which;
-    EXPECT_TRUE(area.Y <= placed.Baseline && placed.Baseline <= area.Bottom()) << which;
-    for (const PageRect& other : areas) EXPECT_FALSE(Overlap(area, other)) << which;
-    areas.push_back(area);
-    if (placed.Scrolls) areas.back().Height -= m.FrameAbove;  // two frames may share an edge
-  }
 }
 
 PageLayout NaturalLayout(const Form& form, const PageMetrics& m, PageSize limit = {2000, 2000}) {
@@ -204,6 +180,37 @@ TEST(Layout, TextOfNoWantedHeightTakesTheLinesThatItNeeds) {
   EXPECT_EQ(Find(longer, form, 10).Wrapped, (std::vector<std::string>{"one two three four", "five six", "seven"}));
   EXPECT_FALSE(Find(longer, form, 10).Scrolls);
   EXPECT_EQ(longer.Page.Height, page.Page.Height + 2 * m.Pitch);
+}
+
+TEST(Layout, ARowThatIsTooLongGoesOnInTheNextLineAndPartsNoLabelFromItsField) {
+  constexpr ControlTemplate kLongRows[] = {LabelAt(0, 0, "A caption of the whole page that is far too long for it", 2),
+                                           LabelAt(1, 0, "Name"),
+                                           EditAt(1, 0, 20, 20),
+                                           LabelAt(1, 0, "Age"),
+                                           NumberAt(1, 0, 21),
+                                           LabelAt(1, 0, "years"),
+                                           ListAt(1, 1, 22, 30, 3),
+                                           ButtonAt(2, 0, 1, "One button"),
+                                           ButtonAt(2, 0, 2, "Another"),
+                                           ButtonAt(2, 0, 3, "And the third"),
+                                           ResultAt(3, 0, 23, 4, "A result that is wider than the page can be")};
+  const Form form(FormTemplate{"Rows", "Rows", kLongRows, ""});
+  PageMetrics m = Terminal();
+  m.WrapsResults = true;
+  const auto placed = [&](const PageLayout& page, std::size_t control) { return page.Controls[control]; };
+  const PageLayout wide = NaturalLayout(form, m);
+  EXPECT_EQ(placed(wide, 9).Baseline, placed(wide, 7).Baseline) << "nothing is broken that fits";
+  const PageLayout page = NaturalLayout(form, m, {40, 20});
+  ExpectGoodPage(form, page, m);
+  EXPECT_EQ(page.Page, (PageSize{40, 9}));
+  EXPECT_EQ(placed(page, 0).Wrapped.size(), 2U);
+  EXPECT_EQ(placed(page, 2).Baseline, placed(page, 1).Baseline);
+  EXPECT_EQ(placed(page, 3).Area.X, placed(page, 1).Area.X) << "Age begins a line";
+  EXPECT_EQ(placed(page, 5).Baseline, placed(page, 3).Baseline) << "years stands beside its number";
+  EXPECT_EQ(placed(page, 8).Baseline, placed(page, 7).Baseline);
+  EXPECT_EQ(placed(page, 9).Baseline, placed(page, 7).Baseline + 1);
+  EXPECT_EQ(placed(page, 10).Wrapped.size(), 2U);
+  for (int width = 79; width > 36; --width) ExpectGoodPage(form, NaturalLayout(form, m, {width, 30}), m);
 }
 
 TEST(Layout, HiddenControlsTakeNoRoom) {

@@ -42,9 +42,12 @@ constexpr const char* kNames[] = {
     "EditMilitary",
     "EditMoney",
     "EditPerson",
+    "EditQuirks",
     "EditSchool",
     "EditSeminary",
+    "EditSkills",
     "EditSpellBooks",
+    "EditSpells",
     "EditStanding",
     "EditTattoos",
     "Enter",
@@ -184,8 +187,10 @@ void VisitRareForms(Visitor& player) {
   PickBardInstrument(game);
   RunTraining(game);
   RunFreeSpellSellection(game, FreeSpellKind::AnyLevel);
-  sheet.PackageName = "Mystic";
-  ApplyPackage(game);
+  for (const char* package : {"Mystic", "Rustic Magic-User"}) {
+    sheet.PackageName = package;
+    ApplyPackage(game);
+  }
   game.run.CurrentStep = kMishapStep;
   constexpr std::string_view kMishapTables[] = {kTable6B, kTable6B};
   RunQuirksandFlawsMage(game, kMishapTables);

@@ -51,7 +51,7 @@ constexpr ControlTemplate kStepThreeControls[] = {
     LabelAt(9, 0, "Building Points"),
     ResultAt(9, 1, kBuildingPoints, kScoreWidth),
     LabelAt(1, 2, "Ra&ce"),
-    ListAt(2, 2, kRaces, 26, 12, 12),
+    ListAt(2, 2, kRaces, 28, 12, 12),
     LabelAt(14, 2, "&Native Language"),
     ComboAt(15, 2, kLanguages, 24),
     TextAt(1, 3, kHelp, kHelpText, 34, 15, 15),

@@ -56,7 +56,7 @@ constexpr auto kSkillsControls = [] {
     controls[next++] = control;
   };
   add(TitleAt(0, 0, "Step 12: Skills, Talents and Proficiencies"), kColumns);
-  for (int ability = 0; ability < kAbilityCount; ++ability) add(ResultAt(1, 0, kFirstAbility + ability, 11), kColumns);
+  for (int ability = 0; ability < kAbilityCount; ++ability) add(ResultAt(1, 0, kFirstAbility + ability, 0), kColumns);
 
   add(LabelAt(2, 0, "&Category"));
   add(ComboAt(2, 0, kCategory, 23));

@@ -73,7 +73,7 @@ constexpr auto kTattooControls = [] {
   };
   addWide(TitleAt(0, 0, "Pixie Fairy Tattoos"));
   addWide(ResultAt(1, 0, kBuildingPoints, 12));
-  for (int ability = 0; ability < kAbilityCount; ++ability) addWide(ResultAt(2, 0, kFirstAbility + ability, 10));
+  for (int ability = 0; ability < kAbilityCount; ++ability) addWide(ResultAt(2, 0, kFirstAbility + ability, 0));
   controls[next++] = LabelAt(3, 0, "Tattoo &Listing");
   controls[next++] = ListAt(kListRow, 0, kTattoos, 14, kLines, kListRows);
   for (int i = 0; i < static_cast<int>(kHeads.size()); ++i) {
