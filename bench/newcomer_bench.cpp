@@ -1,7 +1,8 @@
 // Promise: a newcomer who throws real dice and knows nothing of the pages comes from the start of the program to a
-// saved fighter in at most 120 presses. A press is an Enter, a click, a row chosen, an answer; the digits of his dice and
-// the letters of a name are counted apart, as typed. He takes what the page offers, Enter where the focus is, and looks
-// only for the words "Human, Male" and "Fighter"; where Enter does nothing he clicks the button that ends the page.
+// saved fighter in at most 120 presses. A press is an Enter, a click, a row chosen, an answer; the digits of his dice
+// and the letters of a name are counted apart, as typed. He takes what the page offers, Enter where the focus is, and
+// looks only for the words "Human, Male", "Fighter" and a few things to learn and buy; where Enter does nothing he
+// clicks the button that ends the page.
 #include <benchmark/benchmark.h>
 
 #include <cstdlib>
@@ -11,6 +12,7 @@
 #include <map>
 #include <sstream>
 
+#include "platform/control_names.h"
 #include "shell/main_menu.h"
 #include "silent_platform.h"
 #include "steps/classes/class_choice.h"
@@ -69,7 +71,8 @@ class Newcomer : public SilentPlatform, public FormObserver {
 
   bool ChooseRow(Form& form, int list, std::string_view text) {
     const std::vector<std::string>& items = form.Items(list);
-    const auto row = std::find_if(items.begin(), items.end(), [&](const std::string& item) { return item.starts_with(text); });
+    const auto row =
+        std::find_if(items.begin(), items.end(), [&](const std::string& item) { return item.starts_with(text); });
     if (row == items.end()) return false;
     ++presses;
     return form.Choose(list, static_cast<int>(row - items.begin()));
@@ -84,7 +87,8 @@ class Newcomer : public SilentPlatform, public FormObserver {
     ++pressesOfPages["questions"];
     return text.ends_with("Tables?") ? Answer::No : Answer::Yes;
   }
-  std::optional<ChosenPath> DoAskSavePath(const std::string&, std::span<const FileFilter>, const std::string&) override {
+  std::optional<ChosenPath> DoAskSavePath(const std::string&, std::span<const FileFilter>,
+                                          const std::string&) override {
     ++presses;  // Enter: the name of the character is offered
     isSaved = true;
     return ChosenPath{"hero.vlf", 0};
@@ -93,6 +97,7 @@ class Newcomer : public SilentPlatform, public FormObserver {
  private:
   int Throw(int sides, int count) {
     int sum = 0;
+    int above = 0;
     for (int die = 0; die < count; ++die) {
       state_ = state_ * 1664525U + 1013904223U;
       sum += 1 + static_cast<int>((state_ >> 8) % static_cast<std::uint32_t>(sides));
@@ -105,16 +110,41 @@ class Newcomer : public SilentPlatform, public FormObserver {
     form.Type(id, text);
   }
 
+  /// Searches for the next thing wanted on this page and takes it by Enter. False if he wants no more.
+  bool Shop(Form& form) {
+    auto& wanted = wanted_[std::string(form.Name())];
+    if (wanted.empty()) return false;
+    if (wanted.front() == kProficienciesWord) {
+      ++presses;
+      wanted.erase(wanted.begin());
+      return form.Press(kProficienciesButton);
+    }
+    const Control& search = form.Controls()[focus_];
+    Type(form, search.Template.Id, wanted.front());
+    wanted.erase(wanted.begin());
+    Trace(form, search);
+    ++presses;
+    return form.PressEnterAt(focus_);
+  }
+
   /// One thing that somebody does who follows the page.
   void Use(Form& form) {
+    const bool isShop = wanted_.contains(std::string(form.Name()));
+    if (isShop) {
+      if (!Shop(form)) EndPage(form);
+      return;
+    }
     const Control& control = form.Controls()[focus_];
     const int id = control.Template.Id;
     if (form.Name() == "GetDice") {
       TypeDice(form);
     } else if (form.Name() == "StepNine" && form.Selection(kClassList) < 0) {
       ChooseRow(form, kClassList, "Fighter");
-    } else if (form.Name() == "StepEightteen" && control.Template.Kind == ControlKind::Edit && control.Text.empty()) {
-      Type(form, id, "Wat");
+    } else if (control.Template.Kind == ControlKind::List && control.Selection < 0) {
+      ++presses;  // Down
+      form.Choose(id, 0);
+    } else if (form.Name() == "StepEightteen" && control.Template.Kind == ControlKind::Edit && control.Text != kName) {
+      Type(form, id, kName);  // over what stands there, which is marked
     }
     Trace(form, control);
     ++presses;
@@ -136,11 +166,11 @@ class Newcomer : public SilentPlatform, public FormObserver {
     Type(form, 3000, std::to_string(Throw(sides, count)));
   }
 
-  /// Clicks the page's last word: OK, Done or Close.
+  /// Clicks the page's last word.
   void EndPage(Form& form) {
     for (const Control& control : form.Controls()) {
-      const bool ends = control.Template.Id == 1 || IsDefault(control.Template.Role) || IsCancel(control.Template.Role);
-      if (control.Template.Kind != ControlKind::Button || !ends || !control.Enabled || !control.Visible) continue;
+      const std::string text = WithoutMnemonic(control.Text);
+      if (control.Template.Kind != ControlKind::Button || (text != "OK" && text != "Close" && text != "Done")) continue;
       Trace(form, control);
       ++presses;
       form.Press(control.Template.Id);
@@ -153,6 +183,14 @@ class Newcomer : public SilentPlatform, public FormObserver {
     std::cerr << form.Name() << ": at " << control.Template.Id << " '" << control.Text << "'\n";
   }
 
+  static constexpr const char* kName = "Wat";
+  static constexpr int kProficienciesButton = 4005;
+  static constexpr const char* kProficienciesWord = "(Proficiencies)";
+
+  std::map<std::string, std::vector<std::string>> wanted_{
+      {"Skills", {kProficienciesWord, "swimming", "first aid"}},
+      {"WeaponProf", {"sword: long", "dagger"}},
+      {"Equip", {"sword, long", "leather", "backpack", "ration", "torch", "rope"}}};
   std::uint32_t state_;
   Form* form_ = nullptr;
   std::size_t focus_ = 0;
@@ -175,7 +213,8 @@ int PlayRun(std::uint32_t seed) {
   newcomer.window->Press(kContinue);
   if (std::getenv("VELD_TRACE")) {
     for (const auto& [page, presses] : newcomer.pressesOfPages) std::cerr << page << ' ' << presses << '\n';
-    std::cerr << "typed " << newcomer.typed << ' ' << newcomer.isSaved << ' ' << game->sheet.ClassName.View() << ' ' << newcomer.presses << '\n';
+    std::cerr << "typed " << newcomer.typed << ' ' << newcomer.isSaved << ' ' << game->sheet.ClassName.View() << ' '
+              << newcomer.presses << '\n';
   }
   return newcomer.isSaved && game->sheet.ClassName == "Fighter" ? newcomer.presses : 0;
 }
@@ -189,18 +228,21 @@ void PressesOfANewcomer(benchmark::State& state) {
     int saved = 0;
     int most = 0;
     int sum = 0;
+    int above = 0;
     for (std::uint32_t seed = 1; seed <= kSeeds; ++seed) {
       const int presses = PlayRun(seed);
       if (presses == 0) continue;
       ++saved;
       sum += presses;
       most = std::max(most, presses);
+      if (presses > kMostPresses) ++above;
     }
     if (saved == 0) return state.SkipWithError("nobody came to a saved fighter");
     state.counters["fighters"] = saved;
     state.counters["presses"] = static_cast<double>(sum) / saved;
     state.counters["most"] = most;
     state.counters["promised"] = kMostPresses;
+    state.counters["above_it"] = above;  // those of many brothers and sisters, each with dice to be typed
   }
   std::filesystem::current_path(before);
   std::filesystem::remove_all(folder);

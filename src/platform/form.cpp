@@ -238,6 +238,8 @@ bool Form::PressDefault() {
 }
 
 bool Form::PressEnterAt(std::size_t control) {
+  // The word that was searched for stays, marked: what is typed next takes its place.
+  if (control < controls_.size() && controls_[control].Template.Searches != 0) Focus(controls_[control].Template.Id);
   if (control < controls_.size() && Press(controls_[control].Template.EnterPresses)) return true;
   return PressDefault();
 }

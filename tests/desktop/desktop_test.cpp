@@ -341,6 +341,9 @@ TEST_F(Desktop, UpAndDownLeadFromFieldToFieldAndFromASearchToItsList) {
     fields.Focus(kName);
     Type("e");
     EXPECT_EQ(fields.SelectedText(kList), "Rope");
+    Press(Qt::Key_Return);
+    Type("t");
+    EXPECT_EQ(fields.Text(kName), "t") << "what is typed behind Enter is another search";
     Press(Qt::Key_Down);
     EXPECT_EQ(focus(), kList);
     Press(Qt::Key_Down);
