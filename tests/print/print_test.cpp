@@ -50,8 +50,13 @@ std::vector<std::string> WordsOf(const std::string& text) {
 }
 
 /// A part of a fact as it stands on paper, where the number of a good has a column of its own, as have the parts of a
-/// tattoo, and an effect has no markup.
+/// tattoo and the die of Honor, an effect has no markup, and what was not chosen is for the pencil.
 std::string OnPaper(const SheetBlock& block, std::string part) {
+  for (const std::string_view unknown : {"name", "Unknown", "Please Pick", "30"}) {
+    if (part == unknown) return {};
+  }
+  if (part.starts_with("Dishonorable ") || Contains(part, " Honor "))
+    part.resize(std::min(part.size(), part.rfind(" d")));
   for (const std::string_view mark : {"<sup>", "</sup>"}) {
     if (const auto at = part.find(mark); at != std::string::npos) part.erase(at, mark.size());
   }
@@ -119,7 +124,10 @@ TEST_F(PrintTest, EveryFactOfFinishedCharactersIsFoundOnPaper) {
     ExpectNothingCut(56, isLetter ? 612 : 595, isLetter ? 792 : 842);
     const std::string told = OutputOf("pdfinfo a.pdf");
     EXPECT_TRUE(Contains(told, isLetter ? "612 x 792 pts (letter)" : "595.276 x 841.89 pts (A4)")) << told;
-    EXPECT_TRUE(Contains(told, Format("Title:           %s", game->sheet.CharacterName))) << told;
+    const bool isNobody = name == "empty";
+    EXPECT_TRUE(Contains(told, Format("Title:           %s", isNobody ? std::string("A new character")
+                                                                      : std::string(game->sheet.CharacterName))))
+        << told;
     EXPECT_TRUE(Contains(told, "Author:          Robin")) << told;
     std::istringstream fonts(OutputOf("pdffonts a.pdf | tail -n +3"));
     for (std::string font; std::getline(fonts, font);) {
