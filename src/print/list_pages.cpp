@@ -163,7 +163,6 @@ constexpr double kStoryRoom = 150;  ///< the least that family and notes begin i
 
 void PlaceGoodsTable(PageFlow& flow, const Game& game) {
   constexpr int kColumns = 2;
-  constexpr int kFewBlanks = 12;
   PdfCanvas& canvas = flow.Canvas();
   const double width = flow.ColumnWidth(kColumns);
   const TableShape table(canvas,
@@ -188,11 +187,13 @@ void PlaceGoodsTable(PageFlow& flow, const Game& game) {
   }
   // Room for what is found; all that is left of the page if the next part does not begin on it.
   constexpr double kHeads = 45;
+  const int few = rows.empty() ? 20 : 12;
   const double rowsHigh = (flow.Room() - kHeads) / kRowHeight;
   const int left = kColumns * static_cast<int>(rowsHigh) - static_cast<int>(rows.size());
-  const bool isLast = left >= kFewBlanks && left - kFewBlanks <= kColumns * kStoryRoom / kRowHeight;
-  const int blanks = isLast ? left : rows.empty() ? 20 : kFewBlanks;
+  const bool isLast = left >= few && left - few <= kColumns * kStoryRoom / kRowHeight;
+  const int blanks = isLast ? left : few;
   rows.push_back(SubHeading(canvas, "Found and bought since", width));
+  rows.back().Title.clear();  // rows to fill in need no telling
   PlaceSection(flow, "Goods", table, std::move(rows), kColumns, blanks);
 }
 

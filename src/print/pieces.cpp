@@ -267,8 +267,9 @@ void PageFlow::PlaceInColumns(std::span<const Piece> pieces, int columns, const 
   // What stands over a column that goes on with what a subheading leads.
   const auto again = [&](std::size_t from) -> Piece {
     if (from < pieces.size() && pieces[from].KeepsNext) return {};
-    while (from > 0 && pieces[from - 1].Title.empty()) --from;
-    return from > 0 ? SubHeading(canvas_, Format("%s, continued", pieces[from - 1].Title), width) : Piece{};
+    while (from > 0 && !pieces[from - 1].KeepsNext) --from;
+    if (from == 0 || pieces[from - 1].Title.empty()) return {};
+    return SubHeading(canvas_, Format("%s, continued", pieces[from - 1].Title), width);
   };
   // How far a column of at most this height goes from a piece on, and how high it gets. At least one piece goes.
   const auto fill = [&](std::size_t from, double limit, double& height) {

@@ -50,8 +50,8 @@ Piece WhoItIs(PdfCanvas& canvas, const SheetContent& content, double width) {
   const LaidText name =
       isNamed ? canvas.LayFitting(known, {19, true, Ink::Blue}, 11, width) : canvas.Lay("Name", {kSmallSize});
   const double height = std::max(name.Height(), isNamed ? 0.0 : 24.0);
-  const Piece title{height + 2, [&canvas, name, width, height](double x, double y) {
-                      canvas.Draw(name, x, y);
+  const Piece title{height + 2, [&canvas, name, isNamed, width, height](double x, double y) {
+                      canvas.Draw(name, x, isNamed ? y : y + 2);
                       canvas.Line(x, y + height + 0.5, x + width, y + height + 0.5, Ink::Blue, 1.2);
                     }};
   return Stack({title, FieldRow(canvas, content, width, {{"Race", 2}, {"Class", 4}, {"Player", 2}}),
@@ -233,7 +233,8 @@ Piece Honor(PdfCanvas& canvas, const CharacterSheet& sheet, double width) {
   const double half = (besides - kGutter) / 2;
   const Piece fields =
       Stack({Beside({{0, Field(canvas, "Category", category.substr(0, die), half * 1.35)},
-                     {half * 1.35 + kGutter, Field(canvas, "Honor die", OneLine(category.substr(die)), half * 0.65)}}),
+                     {half * 1.35 + kGutter,
+                      Field(canvas, "Honor die", category.substr(std::min(die + 1, category.size())), half * 0.65)}}),
              Space(4), TickBoxes(canvas, kTrack, besides), Remark(canvas, "tick what is spent", besides)});
   const std::string honor = category.empty() && sheet.Honor == 0 ? "" : Format("%i", sheet.Honor);
   return Stack({Heading(canvas, "Honor", width), Space(4),
