@@ -10,7 +10,8 @@ namespace veld {
 namespace {
 
 constexpr double kMm = 72 / 25.4;
-constexpr double kPadding = 2;  ///< of a cell, to each side
+constexpr double kPadding = 2;      ///< of a cell, to each side
+constexpr double kFirstBase = 9.2;  ///< of a row's texts
 
 }  // namespace
 
@@ -136,7 +137,9 @@ TableShape::TableShape(PdfCanvas& canvas, std::vector<TableColumn> columns, doub
 
 Piece TableShape::Cells(const std::vector<LaidText>& cells, bool isHead) const {
   double height = isHead ? 8 : kRowHeight;
-  for (const LaidText& cell : cells) height = std::max(height, cell.Height() + (isHead ? 2 : 3));
+  for (const LaidText& cell : cells) {
+    height = std::max(height, cell.Height() + (isHead ? 2 : kFirstBase - cell.Baseline() + 1));
+  }
   const bool isMarked = marked_ >= 0;
   const Place mark = isMarked ? places_[static_cast<std::size_t>(marked_)] : Place{};
   return {
@@ -149,7 +152,7 @@ Piece TableShape::Cells(const std::vector<LaidText>& cells, bool isHead) const {
         }
         for (std::size_t i = 0; i < cells.size(); ++i) {
           // Heads stand on their line; of a row's texts the first lines share a base.
-          const double top = isHead ? y + height - 1 - cells[i].Height() : y + 9.2 - cells[i].Baseline();
+          const double top = isHead ? y + height - 1 - cells[i].Height() : y + kFirstBase - cells[i].Baseline();
           canvas.Draw(cells[i], x + places[i].X + (i == 0 ? 0 : kPadding), top);
         }
       },

@@ -363,9 +363,8 @@ std::vector<Piece> LowerParts(PdfCanvas& canvas, const Game& game, const SheetCo
   parts.insert(parts.end(), callings.begin() + 1, callings.end());
   std::vector<Piece> rows;
   for (std::size_t i = 0; i < parts.size(); i += 2) {
-    std::vector<std::pair<double, Piece>> pair{{0, parts[i]}};
-    if (i + 1 < parts.size()) pair.emplace_back(half + kGutter, parts[i + 1]);
-    rows.push_back(Beside(std::move(pair)));
+    const bool isPair = i + 1 < parts.size();
+    rows.push_back(isPair ? Beside({{0, parts[i]}, {half + kGutter, parts[i + 1]}}) : parts[i]);
   }
   return rows;
 }

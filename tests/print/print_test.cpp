@@ -119,7 +119,9 @@ TEST_F(PrintTest, EveryFactOfFinishedCharactersIsFoundOnPaper) {
     Load(testing::FileText(kGolden + name + ".vlf"));
     const std::string sheet = TextSheet(*game);
     const bool isLetter = name == "thief" || name == "mage";
-    ExpectEveryFact(*game, Text({isLetter ? PaperSize::Letter : PaperSize::A4, false}));
+    const std::string text = Text({isLetter ? PaperSize::Letter : PaperSize::A4, false});
+    ExpectEveryFact(*game, text);
+    EXPECT_FALSE(Contains(text, "Please Pick")) << "what is not chosen is for the pencil";
     EXPECT_EQ(TextSheet(*game), sheet) << "printing changes nothing of the character";
     ExpectNothingCut(56, isLetter ? 612 : 595, isLetter ? 792 : 842);
     const std::string told = OutputOf("pdfinfo a.pdf");
@@ -163,6 +165,7 @@ TEST_F(PrintTest, ACharacterWithEverythingComesOutWhole) {
   ExpectEveryFact(*game, text);
   ExpectNothingCut(56, 595, 842);
   EXPECT_TRUE(Contains(WithoutBlanks(text), name));
+  EXPECT_TRUE(Contains(text, "\nCantrips, continued\n") && Contains(text, "\nClothing, continued\n"));
   // Every page has its number; the cards come nine on a page and have it too.
   const auto pages = [](const std::string& all) { return std::ranges::count(all, '\f'); };
   const std::string withCards = Text({PaperSize::Letter, true});
