@@ -29,6 +29,7 @@ void PlaceSection(PageFlow& flow, std::string_view title, const TableShape& tabl
 
 void PlaceSkills(PageFlow& flow, const CharacterSheet& sheet) {
   constexpr int kColumns = 2;
+  constexpr std::size_t kUsed = 3;
   const TableShape table(flow.Canvas(),
                          {{"skill", 4.2, Align::Left},
                           {"mastery", 0.9, Align::Center, true},
@@ -37,10 +38,23 @@ void PlaceSkills(PageFlow& flow, const CharacterSheet& sheet) {
                           {"improved to", 1.4}},
                          flow.ColumnWidth(kColumns));
   std::vector<Piece> rows;
+  // Each row has a box to tick when the skill was used.
+  const auto add = [&, canvas = &flow.Canvas()](const std::vector<std::string>& cells) {
+    constexpr double kBox = 5.5;
+    static constexpr double kOffsets[] = {0};
+    const auto [left, wide] = table.Column(kUsed);
+    const double at = left + (wide - kBox) / 2;
+    const Piece row = table.Row(cells);
+    rows.push_back({row.Height, [canvas, row, at](double x, double y) {
+                      row.Draw(x, y);
+                      canvas->Squares(x + at, y + 3.8, kBox, kOffsets);
+                    }});
+  };
   for (const HeldAbility& skill : HeldSkills(sheet)) {
-    rows.push_back(table.Row({skill.Name, Format("%i%%", skill.Amount), std::string(skill.Page)}));
+    add({skill.Name, Format("%i%%", skill.Amount), std::string(skill.Page)});
   }
-  PlaceSection(flow, "Skills", table, std::move(rows), kColumns, 2 * kBlankRows);
+  for (int i = 0; i < 2 * kBlankRows; ++i) add({});
+  PlaceSection(flow, "Skills", table, std::move(rows), kColumns, 0);
 }
 
 void PlaceTalents(PageFlow& flow, const CharacterSheet& sheet) {
@@ -145,6 +159,8 @@ void PlaceCoins(PageFlow& flow, const CharacterSheet& sheet, const SheetContent&
   flow.Place(Space(kSectionGap));
 }
 
+constexpr double kStoryRoom = 150;  ///< the least that family and notes begin in
+
 void PlaceGoodsTable(PageFlow& flow, const Game& game) {
   constexpr int kColumns = 2;
   PdfCanvas& canvas = flow.Canvas();
@@ -169,8 +185,15 @@ void PlaceGoodsTable(PageFlow& flow, const Game& game) {
       }
     }
   }
-  const int blanks = rows.empty() ? 20 : 12;
+  // Room for what is found; all that is left of the page if the next part does not begin on it.
+  constexpr double kHeads = 45;
+  const int few = rows.empty() ? 20 : 12;
+  const double rowsHigh = (flow.Room() - kHeads) / kRowHeight;
+  const int left = kColumns * static_cast<int>(rowsHigh) - static_cast<int>(rows.size());
+  const bool isLast = left >= few && left - few <= kColumns * kStoryRoom / kRowHeight;
+  const int blanks = isLast ? left : few;
   rows.push_back(SubHeading(canvas, "Found and bought since", width));
+  rows.back().Title.clear();  // rows to fill in need no telling
   PlaceSection(flow, "Goods", table, std::move(rows), kColumns, blanks);
 }
 
@@ -205,7 +228,7 @@ void PlaceFacts(PageFlow& flow, const SheetBlock& block) {
   std::vector<Piece> rows;
   for (const auto& [label, value] : FactsOf(&block)) rows.push_back(table.Row({label, value}));
   if (rows.empty()) return;
-  flow.PlaceInColumns(rows, 1, {}, Heading(flow.Canvas(), block.Title, flow.Width()));
+  flow.PlaceInColumns(rows, 1, {}, Heading(flow.Canvas(), SentenceCase(block.Title), flow.Width()));
   flow.Place(Space(kSectionGap));
 }
 
@@ -229,8 +252,7 @@ void PlaceGoods(PageFlow& flow, const Game& game, const SheetContent& content) {
 }
 
 void PlaceStory(PageFlow& flow, const SheetContent& content) {
-  constexpr double kTooLittle = 150;
-  if (flow.Room() < kTooLittle) flow.NextPage();
+  if (flow.Room() < kStoryRoom) flow.NextPage();
   for (const SheetBlock& block : content.Blocks) {
     const bool isTold = block.Shape == SheetShape::LongFacts && !block.Title.empty();
     if (isTold) PlaceFacts(flow, block);

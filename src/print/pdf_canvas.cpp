@@ -14,8 +14,8 @@ namespace {
 /// Faces of one cut, the first that is installed; other scripts come from whatever font has them.
 constexpr char kFamilies[] = "Liberation Sans,Arimo,Nimbus Sans,DejaVu Sans,sans-serif";
 
-/// The values of the windows' paper.
-constexpr unsigned kInkColors[] = {0x1f2126, 0x1c3d86, 0xaab6cb, 0xd7e1f1, 0xdfe8f7};
+/// The values of the windows' paper, but for the edges: those are dark enough to come through in a grey copy.
+constexpr unsigned kInkColors[] = {0x1f2126, 0x1c3d86, 0x6b7a99, 0xdfe8f7};
 
 /// A part of a colour: `shift` 16 is the red, 8 the green, 0 the blue.
 unsigned Part(Ink ink, unsigned shift) {

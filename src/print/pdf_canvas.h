@@ -12,8 +12,7 @@ namespace veld {
 enum class Ink {
   Text,  ///< labels
   Blue,  ///< what the character has
-  Edge,  ///< of boxes
-  Rule,  ///< to write on
+  Edge,  ///< of boxes, and lines to write on
   Wash,  ///< under what is marked
 };
 

@@ -10,7 +10,8 @@ namespace veld {
 namespace {
 
 constexpr double kMm = 72 / 25.4;
-constexpr double kPadding = 2;  ///< of a cell, to each side
+constexpr double kPadding = 2;      ///< of a cell, to each side
+constexpr double kFirstBase = 9.2;  ///< of a row's texts
 
 }  // namespace
 
@@ -37,6 +38,14 @@ Piece Beside(std::vector<std::pair<double, Piece>> pieces) {
           }};
 }
 
+std::string SentenceCase(std::string_view title) {
+  std::string cased(title);
+  for (std::size_t i = cased.find(' '); i < cased.size() - 1; i = cased.find(' ', i + 1)) {
+    if (cased[i + 1] >= 'A' && cased[i + 1] <= 'Z') cased[i + 1] = static_cast<char>(cased[i + 1] - 'A' + 'a');
+  }
+  return cased;
+}
+
 Piece Heading(PdfCanvas& canvas, std::string_view title, double width) {
   constexpr double kHeight = 15;
   const LaidText text = canvas.Lay(title, {8.8, true, Ink::Blue}, width);
@@ -57,7 +66,7 @@ Piece SubHeading(PdfCanvas& canvas, std::string_view title, double width) {
             canvas.Draw(text, x, y + height - 1 - text.Height());
             canvas.Line(x, y + height - 0.5, x + width, y + height - 0.5, Ink::Edge);
           },
-          true};
+          true, std::string(title)};
 }
 
 Piece Remark(PdfCanvas& canvas, std::string_view text, double width) {
@@ -128,7 +137,9 @@ TableShape::TableShape(PdfCanvas& canvas, std::vector<TableColumn> columns, doub
 
 Piece TableShape::Cells(const std::vector<LaidText>& cells, bool isHead) const {
   double height = isHead ? 8 : kRowHeight;
-  for (const LaidText& cell : cells) height = std::max(height, cell.Height() + (isHead ? 2 : 3));
+  for (const LaidText& cell : cells) {
+    height = std::max(height, cell.Height() + (isHead ? 2 : kFirstBase - cell.Baseline() + 1));
+  }
   const bool isMarked = marked_ >= 0;
   const Place mark = isMarked ? places_[static_cast<std::size_t>(marked_)] : Place{};
   return {
@@ -136,9 +147,12 @@ Piece TableShape::Cells(const std::vector<LaidText>& cells, bool isHead) const {
       [&canvas = canvas_, cells, places = places_, width = width_, isHead, isMarked, mark, height](double x, double y) {
         if (isMarked) canvas.Fill(x + mark.X, y, mark.Width, height, Ink::Wash);
         canvas.Line(x, y + height, x + width, y + height, Ink::Edge, isHead ? 0.6 : 0.4);
+        for (const double side : {mark.X, mark.X + mark.Width}) {  // the wash alone is lost in a copy
+          if (isMarked) canvas.Line(x + side, y, x + side, y + height, Ink::Blue, 0.9);
+        }
         for (std::size_t i = 0; i < cells.size(); ++i) {
           // Heads stand on their line; of a row's texts the first lines share a base.
-          const double top = isHead ? y + height - 1 - cells[i].Height() : y + 9.2 - cells[i].Baseline();
+          const double top = isHead ? y + height - 1 - cells[i].Height() : y + kFirstBase - cells[i].Baseline();
           canvas.Draw(cells[i], x + places[i].X + (i == 0 ? 0 : kPadding), top);
         }
       },
@@ -213,13 +227,17 @@ HeadPlace PageFlow::Head() const {
   return {kTopMargin, kLeftMargin, Width() - 70, kLeftMargin + Width()};
 }
 
-void PageFlow::DrawHead(const HeadPlace& place) {
+void PageFlow::DrawHead(const HeadPlace& place, bool isOneLine) {
   static constexpr TextStyle kStyle{kSmallSize + 0.7};
-  const LaidText head = canvas_.LayFitting(head_, kStyle, 4, place.Width);
-  const Drawing draw([this, head, right = place.Right, page = page_](double x, double y) {
+  const LaidText head = canvas_.LayFitting(head_, kStyle, 5.5, place.Width);
+  const Drawing draw([this, head, isOneLine, right = place.Right, page = page_](double x, double y) {
     const LaidText number = canvas_.Lay(Format("Page %i of %i", page, page_), kStyle);
     canvas_.Draw(number, right - number.Width(), y);
-    canvas_.Draw(head, x, y);
+    if (isOneLine && head.Lines() > 0) {
+      canvas_.DrawLine(head, 0, x, y);
+    } else {
+      canvas_.Draw(head, x, y);
+    }
   });
   drawings_.push_back({draw, place.Left, place.Top});
   y_ = place.Top + std::max(kHeadHeight, head.Height() + 4);
@@ -227,13 +245,15 @@ void PageFlow::DrawHead(const HeadPlace& place) {
 }
 
 void PageFlow::NextPage() {
-  NextPage(Head());
+  drawings_.push_back({});
+  ++page_;
+  DrawHead(Head());
 }
 
 void PageFlow::NextPage(const HeadPlace& place) {
   drawings_.push_back({});
   ++page_;
-  DrawHead(place);
+  DrawHead(place, true);
 }
 
 void PageFlow::Place(const Piece& piece, double gap) {
@@ -247,9 +267,16 @@ void PageFlow::PlaceInColumns(std::span<const Piece> pieces, int columns, const 
   const double width = ColumnWidth(columns);
   std::size_t next = 0;
   if (pieces.empty() && title.Draw) Place(title);
+  // What stands over a column that goes on with what a subheading leads.
+  const auto again = [&](std::size_t from) -> Piece {
+    if (from < pieces.size() && pieces[from].KeepsNext) return {};
+    while (from > 0 && !pieces[from - 1].KeepsNext) --from;
+    if (from == 0 || pieces[from - 1].Title.empty()) return {};
+    return SubHeading(canvas_, Format("%s, continued", pieces[from - 1].Title), width);
+  };
   // How far a column of at most this height goes from a piece on, and how high it gets. At least one piece goes.
   const auto fill = [&](std::size_t from, double limit, double& height) {
-    height = head.Height;
+    height = head.Height + again(from).Height;
     std::size_t end = from;
     while (end < pieces.size() && (end == from || height + pieces[end].Height <= limit)) height += pieces[end++].Height;
     std::size_t kept = end;
@@ -268,7 +295,7 @@ void PageFlow::PlaceInColumns(std::span<const Piece> pieces, int columns, const 
     return at == pieces.size();
   };
   while (next < pieces.size()) {
-    double first = head.Height + pieces[next].Height;
+    double first = head.Height + again(next).Height + pieces[next].Height;
     for (std::size_t i = next; i + 1 < pieces.size() && pieces[i].KeepsNext; ++i) first += pieces[i + 1].Height;
     const bool isTitleNext = next == 0 && title.Draw;
     if (!isFresh_ && first + (isTitleNext ? title.Height : 0) > Room()) NextPage();
@@ -289,6 +316,10 @@ void PageFlow::PlaceInColumns(std::span<const Piece> pieces, int columns, const 
       double y = y_;
       if (head.Draw) DrawAt(head, x, y);
       y += head.Height;
+      if (const Piece told = again(next); told.Draw) {
+        DrawAt(told, x, y);
+        y += told.Height;
+      }
       for (; next < end; ++next) {
         DrawAt(pieces[next], x, y);
         y += pieces[next].Height;

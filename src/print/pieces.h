@@ -33,6 +33,7 @@ struct Piece {
   double Height = 0;
   Drawing Draw = {};
   bool KeepsNext = false;  ///< is not to be the last in a column or on a page
+  std::string Title = {};  ///< of a subheading: said again over a column that goes on with what stands under it
 };
 
 inline constexpr double kGutter = 10;       ///< between what stands side by side
@@ -49,6 +50,9 @@ Piece Space(double height);
 /// Pieces one above the other, or side by side with their left edges at the offsets.
 Piece Stack(std::vector<Piece> pieces);
 Piece Beside(std::vector<std::pair<double, Piece>> pieces);
+
+/// "Thief abilities" of "Thief Abilities", as the pages' own titles are written.
+std::string SentenceCase(std::string_view title);
 
 /// A section's title, blue and bold over a line.
 Piece Heading(PdfCanvas& canvas, std::string_view title, double width);
@@ -130,7 +134,7 @@ class PageFlow {
   double Room() const;
 
   void NextPage();
-  /// The same with a running head of another place, for what takes the whole sheet.
+  /// The same with a running head of another place, of one line, for what takes the whole sheet.
   void NextPage(const HeadPlace& place);
   /// Draws a piece somewhere on the page.
   void DrawAt(const Piece& piece, double x, double y) { drawings_.push_back({piece.Draw, x, y}); }
@@ -138,7 +142,7 @@ class PageFlow {
   void Place(const Piece& piece, double gap = 0);
   /// Places pieces in columns of one width, page after page, as evenly as they go; `head` stands over each column,
   /// `title` once over all. The columns of a page that is not the last are full. A piece that keeps the next goes with
-  /// it, and the title with the first.
+  /// it, and the title with the first. A column that begins in the midst of what a subheading leads tells so.
   void PlaceInColumns(std::span<const Piece> pieces, int columns, const Piece& head = {}, const Piece& title = {});
   double ColumnWidth(int columns) const { return (Width() - (columns - 1) * kGutter) / columns; }
 
@@ -150,7 +154,7 @@ class PageFlow {
   };
 
   HeadPlace Head() const;
-  void DrawHead(const HeadPlace& place);
+  void DrawHead(const HeadPlace& place, bool isOneLine = false);
   double Bottom() const;
 
   PdfCanvas& canvas_;

@@ -12,11 +12,29 @@
 
 namespace veld {
 
+namespace {
+
+/// "Ada - Human Fighter 1", as far as it is known.
+std::string RunningHead(const SheetContent& content) {
+  std::string head = KnownFact(content, "Name");
+  const char* sign = " \u2013 ";
+  for (const std::string_view label : {"Race", "Class"}) {
+    const std::string fact = KnownFact(content, label);
+    if (fact.empty()) continue;
+    if (!head.empty()) head += sign;
+    head += fact;
+    sign = " ";
+  }
+  return head.empty() ? "A new character" : head;
+}
+
+}  // namespace
+
 std::string PdfSheet(Game& game, const PrintOptions& options) {
   BringUpToDate(game);
   const SheetContent content = GatherSheet(game);
   const PaperMeasure paper = MeasureOf(options.Paper);
-  const std::string head = Format("%s \u2013 %s", content.Name, content.Subtitle);
+  const std::string head = RunningHead(content);
   const auto canvas = PdfCanvas::Make(paper.Width, paper.Height, head, OneLine(game.sheet.PlayerName));
   if (!canvas) return {};
   PageFlow flow(*canvas, head);

@@ -29,7 +29,7 @@ Piece LevelHead(PdfCanvas& canvas, int level, int slots, double width) {
             canvas.Draw(told, x + 60, y + height - 2.5 - told.Height());
             boxes.Draw(x + kBoxesAt, y + height - 1.5 - boxes.Height);
           },
-          true};
+          true, title};
 }
 
 /// A spell's row with its boxes in front.
@@ -179,6 +179,15 @@ void PlaceSpells(PageFlow& flow, const Game& game) {
   for (const SpellBook& book : game.sheet.SpellBooks) {
     if (!book.Name.Empty()) PlaceBook(flow, game, book);
   }
+  // The rest of the page is for what is yet to be learned.
+  PdfCanvas& canvas = flow.Canvas();
+  const TableShape table = SpellShape(canvas, flow.Width());
+  const Piece row = SpellRow(canvas, table, SpellRecord{}, "");
+  const Piece lead = Stack({Heading(canvas, "Spells to come", flow.Width()), table.Head()});
+  constexpr double kWorthIt = 4;
+  if (flow.Room() < lead.Height + kWorthIt * row.Height) return;
+  flow.Place(lead);
+  while (flow.Room() >= row.Height) flow.Place(row);
 }
 
 void DrawSpellCards(PageFlow& flow, const Game& game) {

@@ -38,18 +38,21 @@ Piece FieldRow(PdfCanvas& canvas, const SheetContent& content, double width,
   double x = 0;
   for (const auto& [label, columns] : labels) {
     const double wide = ColumnsWide(width, columns);
-    std::string value = ValueOf(FindBlock(content, "Character Information"), label);
-    fields.emplace_back(x, Field(canvas, label, value, wide));
+    fields.emplace_back(x, Field(canvas, label, KnownFact(content, label), wide));
     x += wide + kGutter;
   }
   return Beside(std::move(fields));
 }
 
 Piece WhoItIs(PdfCanvas& canvas, const SheetContent& content, double width) {
-  const LaidText name = canvas.LayFitting(content.Name, {19, true, Ink::Blue}, 11, width);
-  const Piece title{name.Height() + 2, [&canvas, name, width](double x, double y) {
-                      canvas.Draw(name, x, y);
-                      canvas.Line(x, y + name.Height() + 0.5, x + width, y + name.Height() + 0.5, Ink::Blue, 1.2);
+  const std::string known = KnownFact(content, "Name");
+  const bool isNamed = !known.empty();
+  const LaidText name =
+      isNamed ? canvas.LayFitting(known, {19, true, Ink::Blue}, 11, width) : canvas.Lay("Name", {kSmallSize});
+  const double height = std::max(name.Height(), isNamed ? 0.0 : 24.0);
+  const Piece title{height + 2, [&canvas, name, isNamed, width, height](double x, double y) {
+                      canvas.Draw(name, x, isNamed ? y : y + 2);
+                      canvas.Line(x, y + height + 0.5, x + width, y + height + 0.5, Ink::Blue, 1.2);
                     }};
   return Stack({title, FieldRow(canvas, content, width, {{"Race", 2}, {"Class", 4}, {"Player", 2}}),
                 FieldRow(canvas, content, width,
@@ -127,12 +130,13 @@ Piece Saves(PdfCanvas& canvas, const SheetContent& content, double width, double
   for (const auto& [label, value] : facts) {
     constexpr double kBox = 24;
     const LaidText name = canvas.Lay(label, {kTextSize}, width - 2 * kBox - 8);
-    const LaidText number = canvas.Lay(value, {8.5, true, Ink::Blue, Align::Center}, kBox);
+    const bool isNone = value == Format("%i", kNoSave);
+    const LaidText number = canvas.Lay(isNone ? "" : value, {8.5, true, Ink::Blue, Align::Center}, kBox);
     pieces.push_back({pitch, [&canvas, name, number, width, pitch](double x, double y) {
                         const double box = pitch - 2.5;
                         canvas.Draw(name, x, y + (box - name.Height()) / 2);
                         canvas.Box(x + width - 2 * kBox - 3, y, kBox, box);
-                        canvas.Box(x + width - kBox, y, kBox, box, Ink::Rule);
+                        canvas.Box(x + width - kBox, y, kBox, box);
                         canvas.Draw(number, x + width - 2 * kBox - 3, y + (box - number.Height()) / 2);
                       }});
   }
@@ -149,7 +153,7 @@ Piece HitPoints(PdfCanvas& canvas, const SheetContent& content, const CharacterS
   const double ticksWidth = width - kTicksAt;
   const Piece ticks =
       Stack({TickBoxes(canvas, boxes, ticksWidth, boxes > 60 ? 6.5 : 7.5), Remark(canvas, told, ticksWidth)});
-  const std::string value = ValueOf(FindBlock(content, "Ability Scores"), "Hit Points");
+  const std::string value = sheet.HitPoints == 0 ? "" : ValueOf(FindBlock(content, "Ability Scores"), "Hit Points");
   return Stack({Heading(canvas, "Hit points", width), Space(4),
                 Beside({{0, NumberBox(canvas, "hit points", value, kBoxWidth)}, {kTicksAt, ticks}})});
 }
@@ -161,7 +165,7 @@ Piece Armor(PdfCanvas& canvas, double width) {
   const double half = (width - kBoxWidth - 2 * kGutter) / 2;
   std::vector<std::pair<double, Piece>> parts{{0, NumberBox(canvas, "armor class", "", kBoxWidth)}};
   double x = kBoxWidth + kGutter;
-  for (const std::string_view worn : {"armor worn, its hit points", "shield, its hit points"}) {
+  for (const std::string_view worn : {"Armor worn, its hit points", "Shield, its hit points"}) {
     parts.emplace_back(x, Stack({Field(canvas, worn, "", half), Space(3), TickBoxes(canvas, kTicks, half, 6.5)}));
     x += half + kGutter;
   }
@@ -214,7 +218,7 @@ Piece Movement(PdfCanvas& canvas, const SheetContent& content, const CharacterSh
   }
   const std::string most = Format("%i", EncumbranceLimits(sheet).back());
   pieces.push_back(Remark(
-      canvas, Format("carried now: %s, which is the marked load; the most is %s lbs", ValueOf(block, "Carried"), most),
+      canvas, Format("marked is the load now: %s are carried; the most is %s lbs", ValueOf(block, "Carried"), most),
       width));
   return Stack(std::move(pieces));
 }
@@ -223,14 +227,18 @@ Piece Honor(PdfCanvas& canvas, const CharacterSheet& sheet, double width) {
   constexpr double kBox = 40;
   constexpr int kTrack = 20;
   const double besides = width - kBox - 8;
-  const std::string die = sheet.HonorDie > 1 ? Format("d%i", sheet.HonorDie) : "none";
+  // "Great Honor d4+1": the die has a field of its own.
+  const std::string category = OneLine(sheet.HonorCategory);
+  const std::size_t die = std::min(category.rfind(" d"), category.size());
   const double half = (besides - kGutter) / 2;
   const Piece fields =
-      Stack({Beside({{0, Field(canvas, "category", OneLine(sheet.HonorCategory), half * 1.35)},
-                     {half * 1.35 + kGutter, Field(canvas, "Honor die", die, half * 0.65)}}),
+      Stack({Beside({{0, Field(canvas, "Category", category.substr(0, die), half * 1.35)},
+                     {half * 1.35 + kGutter,
+                      Field(canvas, "Honor die", category.substr(std::min(die + 1, category.size())), half * 0.65)}}),
              Space(4), TickBoxes(canvas, kTrack, besides), Remark(canvas, "tick what is spent", besides)});
+  const std::string honor = category.empty() && sheet.Honor == 0 ? "" : Format("%i", sheet.Honor);
   return Stack({Heading(canvas, "Honor", width), Space(4),
-                Beside({{0, NumberBox(canvas, "Honor", Format("%i", sheet.Honor), kBox)}, {kBox + 8, fields}})});
+                Beside({{0, NumberBox(canvas, "Honor", honor, kBox)}, {kBox + 8, fields}})});
 }
 
 TableShape ExperienceShape(PdfCanvas& canvas, double width) {
@@ -261,13 +269,13 @@ Piece Experience(PdfCanvas& canvas, const SheetContent& content, double width) {
 Piece ClassAbilities(PdfCanvas& canvas, const SheetBlock& block, double width) {
   const TableShape table(canvas,
                          {{"percent", 2.6, Align::Left, false, Ink::Text},
-                          {"base", 0.8, Align::Center, true},
-                          {"no armor", 0.9},
-                          {"elven chain", 1},
-                          {"studded, ring, padded", 1.4},
-                          {"now", 0.9}},
+                          {"base", 0.7, Align::Center, true},
+                          {"no armor", 0.95},
+                          {"elven chain", 1.15},
+                          {"studded, ring, padded", 1.45},
+                          {"now", 0.75}},
                          width);
-  std::vector<Piece> pieces{Heading(canvas, block.Title, width), table.Head()};
+  std::vector<Piece> pieces{Heading(canvas, SentenceCase(block.Title), width), table.Head()};
   for (const SheetRow& row : RowsOf(&block)) {
     pieces.push_back(table.Row(Cells(row)));
   }
@@ -300,8 +308,8 @@ Piece Turning(PdfCanvas& canvas, const CharacterSheet& sheet, double width) {
   const bool isTold = sheet.UsesClericBackground == 1 && Contains(taught, "turn undead");
   return Stack(
       {Heading(canvas, "Turning undead", width),
-       Beside({{0, Field(canvas, "turns as level", "", kLevel)},
-               {kLevel + kGutter, Field(canvas, "what changes it", isTold ? taught : "", width - kLevel - kGutter)}})});
+       Beside({{0, Field(canvas, "Turns as level", "", kLevel)},
+               {kLevel + kGutter, Field(canvas, "What changes it", isTold ? taught : "", width - kLevel - kGutter)}})});
 }
 
 /// How many spells of each level a mage may have in memory.
@@ -347,19 +355,27 @@ std::vector<Piece> LowerParts(PdfCanvas& canvas, const Game& game, const SheetCo
              under > kWorthIt) {
     experience = Stack({experience, Space(kGap), Wounds(canvas, half, under)});
   }
+  while (callings.front().Height + kRowHeight <= experience.Height) {
+    callings.front() = Stack({callings.front(), RuledLine(canvas, half, kRowHeight)});
+  }
   parts.push_back(callings.front());
   parts.push_back(experience);
   parts.insert(parts.end(), callings.begin() + 1, callings.end());
   std::vector<Piece> rows;
   for (std::size_t i = 0; i < parts.size(); i += 2) {
-    std::vector<std::pair<double, Piece>> pair{{0, parts[i]}};
-    if (i + 1 < parts.size()) pair.emplace_back(half + kGutter, parts[i + 1]);
-    rows.push_back(Beside(std::move(pair)));
+    const bool isPair = i + 1 < parts.size();
+    rows.push_back(isPair ? Beside({{0, parts[i]}, {half + kGutter, parts[i + 1]}}) : parts[i]);
   }
   return rows;
 }
 
 }  // namespace
+
+std::string KnownFact(const SheetContent& content, std::string_view label) {
+  constexpr std::string_view kNotYet[] = {"name", "Unknown", "Please Pick", "0", "0 inches", "0 lbs"};
+  std::string value = OneLine(TrimRight(ValueOf(FindBlock(content, "Character Information"), label)));
+  return std::ranges::find(kNotYet, value) == std::end(kNotYet) ? value : std::string{};
+}
 
 void PlaceTablePage(PageFlow& flow, const Game& game, const SheetContent& content) {
   PdfCanvas& canvas = flow.Canvas();
