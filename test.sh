@@ -4,7 +4,7 @@ set -euo pipefail
 cd "$(dirname "$0")"
 
 scripts/install-packages.sh g++ cmake ninja-build qt6-base-dev libqt6widgets6 fonts-liberation libgtest-dev libncurses-dev libxml2-dev \
-  libcairo2-dev libpango1.0-dev poppler-utils
+  libcairo2-dev libpango1.0-dev poppler-utils libcli11-dev nlohmann-json3-dev
 scripts/configure.sh sanitize
 cmake --build build/sanitize -- --quiet
 

@@ -137,7 +137,7 @@ HeldDiceLog::~HeldDiceLog() {
 }
 
 void LogDiceLine(Game& game, std::string_view line) {
-  if (game.platform.IsReplaying()) return;
+  if (game.platform.LeavesNoTrace()) return;
   switch (game.dice.LogMode) {
     case DiceLogMode::EachLine:
       AppendLine(kDiceLog, line);

@@ -7,7 +7,7 @@
 namespace veld {
 
 void ShowCharacter(Game& game) {
-  if (!game.platform.IsReplaying()) game.platform.ShowPage(CharacterPage(game));
+  if (!game.platform.LeavesNoTrace()) game.platform.ShowPage(CharacterPage(game));
 }
 
 void UpdateMainTitle(Game& game, std::string_view name) {

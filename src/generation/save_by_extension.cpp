@@ -23,7 +23,7 @@ constexpr FileFilter kLoadFilters[] = {{"Quellmarch Files (*.VLF)", ".vlf"}};
 }  // namespace
 
 void SaveByExtension(Game& game, const std::string& path) {
-  if (game.platform.IsReplaying()) return;
+  if (game.platform.LeavesNoTrace()) return;
   const auto has = [&](std::string_view part) { return Contains(path, part); };
   if (has(".vlf")) {
     SaveCharacterFile(game, path);

@@ -7,7 +7,7 @@ namespace veld {
 
 namespace {
 
-enum : int { kPrompt = 10, kEntry = 3000, kOk = 1, kCancel = 2 };
+enum : int { kPrompt = AskNameControl::Prompt, kEntry = AskNameControl::Entry, kOk = 1, kCancel = 2 };
 
 constexpr ControlTemplate kGetNameControls[] = {
     TextAt(0, 0, kPrompt, "", 54, 0),

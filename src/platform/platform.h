@@ -78,9 +78,11 @@ class Platform {
   /// The clock, in seconds since 1970.
   virtual std::int64_t Now() const;
 
-  /// True while a run is played again that was played before: nobody sees it, and who writes logs and files then does
-  /// not write them a second time.
+  /// True while a run is played again that was played before: nobody sees it.
   virtual bool IsReplaying() const { return false; }
+  /// True where a run is to leave nothing behind but its character: who writes logs, copies and files does not write
+  /// them, and no page is shown. So it is while a run is played again, and when a character plays itself.
+  virtual bool LeavesNoTrace() const { return IsReplaying(); }
   /// True when nobody is there any more, and open forms are only being left.
   virtual bool IsLost() const { return false; }
 

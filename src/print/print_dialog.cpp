@@ -68,13 +68,12 @@ bool SendSheet(Game& game, int id, const std::string& name, const std::function<
   return isSaved;
 }
 
-void RunPrint(Game& game) {
+void RunPrintOf(Game& game, const std::string& who, bool hasSpells,
+                const std::function<std::string(const PrintOptions&)>& makeSheets) {
   Form form(kPrint);
-  const CharacterSheet& sheet = game.sheet;
   form.onOpened = [&] {
-    form.SetText(kWho, OneLine(sheet.CharacterName));
+    form.SetText(kWho, who);
     ShowPaper(form, game);
-    const bool hasSpells = std::ranges::any_of(sheet.SpellsKnown, [](int known) { return known > 0; });
     form.SetChecked(kCards, hasSpells && game.print.SpellCards);
     form.SetEnabled(kCards, hasSpells);
   };
@@ -84,10 +83,17 @@ void RunPrint(Game& game) {
     KeepPaper(form, game);
     if (id != kPrintView && id != kPrintPrinter && id != kPrintSave) return;
     const PrintOptions options{ChosenPaper(game), form.IsChecked(kCards)};
-    const auto make = [&] { return PdfSheet(game, options); };
-    if (SendSheet(game, id, OneLine(sheet.CharacterName), make, "Character Saved in PDF format")) form.Close();
+    const auto make = [&] { return makeSheets(options); };
+    if (SendSheet(game, id, who, make, "Character Saved in PDF format")) form.Close();
   };
   game.platform.RunForm(form);
+}
+
+void RunPrint(Game& game) {
+  const CharacterSheet& sheet = game.sheet;
+  const bool hasSpells = std::ranges::any_of(sheet.SpellsKnown, [](int known) { return known > 0; });
+  RunPrintOf(game, OneLine(sheet.CharacterName), hasSpells,
+             [&](const PrintOptions& options) { return PdfSheet(game, options); });
 }
 
 }  // namespace veld

@@ -13,6 +13,11 @@ namespace veld {
 /// in memory goes. What was chosen stands again the next time.
 void RunPrint(Game& game);
 
+/// The same for sheets of any kind: `who` stands on the page, `makeSheets` makes the document when there is somewhere
+/// for it to go.
+void RunPrintOf(Game& game, const std::string& who, bool hasSpells,
+                const std::function<std::string(const PrintOptions&)>& makeSheets);
+
 // What the pages that print have in common: paper, and where the sheet goes.
 
 inline constexpr int kPrintView = 1;

@@ -8,7 +8,6 @@
 #include "print/table_page.h"
 #include "sheets/sheet_content.h"
 #include "sheets/sheet_facts.h"
-#include "text/format.h"
 
 namespace veld {
 
@@ -28,16 +27,14 @@ std::string RunningHead(const SheetContent& content) {
   return head.empty() ? "A new character" : head;
 }
 
-}  // namespace
-
-std::string PdfSheet(Game& game, const PrintOptions& options) {
-  BringUpToDate(game);
-  const SheetContent content = GatherSheet(game);
+std::unique_ptr<PdfCanvas> MakeCanvas(const std::string& title, const std::string& author,
+                                      const PrintOptions& options) {
   const PaperMeasure paper = MeasureOf(options.Paper);
-  const std::string head = RunningHead(content);
-  const auto canvas = PdfCanvas::Make(paper.Width, paper.Height, head, OneLine(game.sheet.PlayerName));
-  if (!canvas) return {};
-  PageFlow flow(*canvas, head);
+  return PdfCanvas::Make(paper.Width, paper.Height, title, author);
+}
+
+void DrawSheet(PdfCanvas& canvas, const Game& game, const SheetContent& content, const PrintOptions& options) {
+  PageFlow flow(canvas, RunningHead(content));
   PlaceTablePage(flow, game, content);
   PlaceAccomplishments(flow, game, content);
   PlaceGoods(flow, game, content);
@@ -46,7 +43,34 @@ std::string PdfSheet(Game& game, const PrintOptions& options) {
   PlaceLog(flow);
   if (options.SpellCards) DrawSpellCards(flow, game);
   flow.Finish();
+}
+
+}  // namespace
+
+std::string PdfSheet(Game& game, const PrintOptions& options) {
+  BringUpToDate(game);
+  const SheetContent content = GatherSheet(game);
+  const auto canvas = MakeCanvas(RunningHead(content), OneLine(game.sheet.PlayerName), options);
+  if (!canvas) return {};
+  DrawSheet(*canvas, game, content, options);
   return canvas->Finish();
+}
+
+PdfSheets::PdfSheets(const std::string& title, const PrintOptions& options)
+    : canvas_(MakeCanvas(title, "", options)), options_(options) {}
+
+PdfSheets::~PdfSheets() = default;
+
+void PdfSheets::Add(Game& game) {
+  BringUpToDate(game);
+  if (!canvas_) return;
+  if (!isEmpty_) canvas_->NextPage();
+  isEmpty_ = false;
+  DrawSheet(*canvas_, game, GatherSheet(game), options_);
+}
+
+std::string PdfSheets::Finish() {
+  return canvas_ ? canvas_->Finish() : std::string();
 }
 
 bool SavePdfSheet(Game& game, const std::string& path, const PrintOptions& options, SaveWay way) {

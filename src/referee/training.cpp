@@ -116,7 +116,7 @@ void RunTrainingTables(Game& game, Form& window) {
   constexpr std::string (*kRolls[kTrainingLines])(Game&) = {RollLocation, RollTeacher, RollClassSize, RollInstruction,
                                                             RollEvent};
   const auto log = [&](std::string_view line) {
-    if (!game.platform.IsReplaying()) LogTrainingLine(line);
+    if (!game.platform.LeavesNoTrace()) LogTrainingLine(line);
   };
   log("");
   for (int line = 0; line < kTrainingLines; ++line) {

@@ -14,6 +14,7 @@
 #include "referee/gm_dice_roller.h"
 #include "referee/honor_track.h"
 #include "shell/about.h"
+#include "shell/npc_page.h"
 #include "shell/options_dialog.h"
 #include "shell/recover_dialog.h"
 #include "steps/race/step_three.h"
@@ -89,7 +90,8 @@ std::vector<MenuItem> MainMenu() {
        .Items = {{.Id = kDiceRoller, .Text = "&Dice Roller"},
                  {.Id = kHonorTracking, .Text = "&Honor Tracking"},
                  {.Id = kCriticalHits, .Text = "&Critical hits"},
-                 {.Id = kPartySheet, .Text = "&Party sheet..."}}},
+                 {.Id = kPartySheet, .Text = "&Party sheet..."},
+                 {.Id = kNpcs, .Text = "&NPCs..."}}},
   };
 }
 
@@ -114,6 +116,7 @@ void RunMainCommand(Game& game, int id) {
     case kCriticalHits: return RunCriticalHits(game);
     case kPrint: return RunPrint(game);
     case kPartySheet: return RunPartySheet(game);
+    case kNpcs: return RunNpcs(game);
     default: return;
   }
 }

@@ -22,6 +22,7 @@ inline constexpr int kSaveRun = 3040;
 inline constexpr int kHowToBegin = 3041;
 inline constexpr int kPrint = 3042;
 inline constexpr int kCriticalHits = 3099;
+inline constexpr int kNpcs = 5562;
 inline constexpr int kDiceTester = 5555;
 inline constexpr int kCustomItems = 5557;
 inline constexpr int kDiceRoller = 5558;

@@ -44,6 +44,12 @@ struct CriticalHitNumbers {
   std::vector<std::string> LastResults;  ///< the newest first
 };
 
+/// A character that played himself, as he is listed and as the bytes of his file.
+struct MadeNpc {
+  std::string Line;
+  std::string Bytes;
+};
+
 /// All that the program remembers. Big: made once on the heap by MakeGame and only ever passed by reference.
 struct Game {
   explicit Game(Platform& p) : platform(p) {}
@@ -68,6 +74,7 @@ struct Game {
   std::string partyCopy;              ///< which recovery copy is that of the party; empty: none yet
   CriticalHitNumbers criticalHits;
   PrintChoice print;
+  std::vector<MadeNpc> npcs;          ///< those that the referee's page made last
 
   bool IsOn(std::size_t ruleSwitch) const { return ruleSwitch < kRuleSwitches && RuleSwitches[ruleSwitch] == 1; }
 };

@@ -217,7 +217,7 @@ bool RecoverParty(Game& game, const RecoveryCopy& copy) {
 }  // namespace
 
 void KeepRecoveryCopy(Game& game, SaveWay way) {
-  if (!IsBegun(game.sheet) || game.platform.IsReplaying()) return;
+  if (!IsBegun(game.sheet) || game.platform.LeavesNoTrace()) return;
   KeepCopy(game, CharacterKind(game), game.recoveryCopy, EncodeCharacter(game), way);
 }
 

@@ -10,10 +10,14 @@ inline bool Contains(std::string_view text, std::string_view part) {
   return !part.empty() && text.find(part) != std::string_view::npos;
 }
 
+/// A letter of A to Z made small; any other as it is.
+constexpr char SmallLetter(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
 /// True if two letters are the same but for the case of A to Z.
-inline bool IsSameLetter(char a, char b) {
-  const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
-  return lower(a) == lower(b);
+constexpr bool IsSameLetter(char a, char b) {
+  return SmallLetter(a) == SmallLetter(b);
 }
 
 /// Compares two texts without regard to the case of the letters A to Z.
@@ -23,9 +27,8 @@ inline bool EqualsIgnoringCase(std::string_view a, std::string_view b) {
 
 /// True if `a` comes before `b` in a list that is sorted without regard to the case of the letters A to Z.
 inline bool IsBeforeIgnoringCase(std::string_view a, std::string_view b) {
-  const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; };
   return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
-                                      [&](char x, char y) { return lower(x) < lower(y); });
+                                      [](char x, char y) { return SmallLetter(x) < SmallLetter(y); });
 }
 
 /// True if `text` ends in `end`, without regard to the case of the letters A to Z.
@@ -35,7 +38,13 @@ inline bool EndsIgnoringCase(std::string_view text, std::string_view end) {
 
 /// As Contains, without regard to the case of the letters A to Z.
 inline bool ContainsIgnoringCase(std::string_view text, std::string_view part) {
-  return !part.empty() && std::search(text.begin(), text.end(), part.begin(), part.end(), IsSameLetter) != text.end();
+  if (part.empty()) return false;
+  // Lists are searched with every letter typed: most places fall out by their first letter.
+  const char first = SmallLetter(part.front());
+  for (std::size_t at = 0; at + part.size() <= text.size(); ++at) {
+    if (SmallLetter(text[at]) == first && EqualsIgnoringCase(text.substr(at, part.size()), part)) return true;
+  }
+  return false;
 }
 
 /// `text` without the blanks at its end.

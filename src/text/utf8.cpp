@@ -60,6 +60,10 @@ char32_t TakeCharacter(std::string_view text, std::size_t& at) {
 }
 
 std::string DisplayText(std::string_view text) {
+  // Nearly every text is plain, and lists hold hundreds of them.
+  bool isPlain = true;
+  for (const char c : text) isPlain = isPlain && c >= 0x20 && c < 0x7F;
+  if (isPlain) return std::string(text);
   const auto isHidden = [](char c) {
     const auto byte = static_cast<unsigned char>(c);
     return (byte < 0x20 && c != '\t' && c != '\n' && c != '\r') || byte == 0x7F;

@@ -2,6 +2,7 @@
 
 #include <map>
 
+#include "backgrounds/mage_school.h"
 #include "backgrounds/packages.h"
 #include "referee/training.h"
 #include "rules/class_table.h"
@@ -10,6 +11,7 @@
 #include "shell/main_menu.h"
 #include "steps/classes/allotments.h"
 #include "steps/classes/class_choice.h"
+#include "steps/classes/take_after.h"
 #include "steps/quirks/quirks_and_flaws.h"
 #include "steps/race/step_three_menu.h"
 #include "steps/skills/pick_dialogs.h"
@@ -69,8 +71,11 @@ constexpr const char* kNames[] = {
     "Message",
     "MinorQuirk",
     "MoneyBP",
+    "NPCs",
     "Options",
     "PackageSelect",
+    "PartySheet",
+    "Print",
     "PriorEdit",
     "Question",
     "QuirksandFlaws",
@@ -124,6 +129,10 @@ class Visitor : public RandomPlayer {
     }
     if (isAllotment) SpreadPoints(form);
     if (isAllotment || name == "StepNine" || name == "StepEight") form.Press(1);
+    if (name == "NPCs" || name == "Print" || name == "PartySheet") {  // where each act may take its time
+      for (int act = 0; act < 2 * kActsBeforeSecondLook && !form.IsClosed(); ++act) Act(form);
+      form.Close();
+    }
     if (!form.IsClosed()) RandomPlayer::RunForm(form);
     met_.erase(&form);
   }
@@ -185,6 +194,9 @@ void VisitRareForms(Visitor& player) {
   sheet.ClassLevels[ClassRow::BountyHunter] = 1;
   RunAllotment(game, ClassRow::BountyHunter);
   PickBardInstrument(game);
+  RunHXABackground(game);
+  sheet.RaceName = "Half-elf";
+  RunTakeAfter(game);
   RunTraining(game);
   RunFreeSpellSellection(game, FreeSpellKind::AnyLevel);
   for (const char* package : {"Mystic", "Rustic Magic-User"}) {
@@ -207,7 +219,7 @@ std::set<std::string> ShowEveryForm(const std::function<void(Form& form, bool is
     if (player.window) player.window->Close();
     if (seed == 1) VisitRareForms(player);
     for (const int command : {kEdit, kInputCharacter, kHonorTracking, kCriticalHits, kDiceRoller, kOptions,
-                              kCustomItems, kAbout, kRecover}) {
+                              kCustomItems, kAbout, kRecover, kPrint, kPartySheet, kNpcs}) {
       if (seed % 8 == 1) RunMainCommand(*player.game, command);
     }
   }

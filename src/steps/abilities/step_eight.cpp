@@ -22,7 +22,7 @@ constexpr int kFirstWhole = 11;
 constexpr int kFirstPercentile = 18;
 constexpr int kBuildingPoints = 25;
 constexpr int kSocialClass = 26;
-constexpr int kFirstEntry = 3000;
+constexpr int kFirstEntry = StepEightControl::FirstEntry;
 constexpr int kMissing = 3116;
 constexpr int kReason = 27;
 

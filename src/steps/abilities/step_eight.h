@@ -7,6 +7,11 @@
 
 namespace veld {
 
+/// What a player uses on the page of Step 8: a field for the BP of each ability.
+namespace StepEightControl {
+inline constexpr int FirstEntry = 3000;
+}  // namespace StepEightControl
+
 /// The abilities and whole BP as Step 8 found them; all its sums start here again.
 struct RaiseBase {
   std::array<AbilityScore, kAbilityCount> Scores;

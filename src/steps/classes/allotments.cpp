@@ -22,7 +22,7 @@ constexpr int kFirstTotal = 10;
 constexpr int kPointsText = 150;
 constexpr int kLimitText = 151;
 constexpr int kRefusal = 152;
-constexpr int kFirstEntry = 3000;
+constexpr int kFirstEntry = AllotmentControl::FirstEntry;
 
 constexpr int kThiefLimit = 30;
 constexpr int kLowThiefLimit = 15;

@@ -8,6 +8,11 @@
 
 namespace veld {
 
+/// What a player uses where points are placed: a field for each ability, in the order of AllottedAbilities.
+namespace AllotmentControl {
+inline constexpr int FirstEntry = 3000;
+}  // namespace AllotmentControl
+
 /// Slot 0 of the nine thief abilities := the percentages before any point is placed, by class, Dexterity and race; the
 /// totals of slot 99 become 0.
 void SetThiefBaseScores(Game& game);

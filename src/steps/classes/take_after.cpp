@@ -12,9 +12,9 @@ namespace veld {
 
 namespace {
 
-constexpr int kYes = 1;
+constexpr int kYes = TakeAfterControl::Yes;
 constexpr int kNo = 2;
-constexpr int kRaces = 3115;
+constexpr int kRaces = TakeAfterControl::Races;
 
 constexpr std::string_view kTitle = "Do you wish to take the Take After Talent for 30 BP?";
 

@@ -7,6 +7,12 @@
 
 namespace veld {
 
+/// What a player uses in the TakeAfter dialog.
+namespace TakeAfterControl {
+inline constexpr int Yes = 1;
+inline constexpr int Races = 3115;
+}  // namespace TakeAfterControl
+
 /// What the Take After talent costs, in BP.
 inline constexpr float kTakeAfterCost = 30;
 

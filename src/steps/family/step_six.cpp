@@ -14,7 +14,7 @@ constexpr int kOk = 1;
 constexpr int kAbort = 2;
 constexpr int kBuildingPoints = 25;
 constexpr int kNext = 27;
-constexpr int kFirstButton = 6078;
+constexpr int kFirstButton = StepSixControl::FirstTable;
 
 /// A table on the page: its button (their ids run in the order of Prior), its result and the unit of a number.
 struct PriorRow {

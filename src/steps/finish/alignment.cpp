@@ -13,7 +13,7 @@ namespace veld {
 
 namespace {
 
-enum : int { kOk = 1, kAbort = 2, kAlignments = 4046 };
+enum : int { kOk = 1, kAbort = 2, kAlignments = AlignmentControl::Alignments };
 
 constexpr std::string_view kNotPicked = "Please Pick";
 

@@ -9,6 +9,11 @@
 
 namespace veld {
 
+/// What a player uses on the page of Step 14.
+namespace AlignmentControl {
+inline constexpr int Alignments = 4046;
+}  // namespace AlignmentControl
+
 /// The alignments as the sheet prints them, with two blanks at the end.
 inline constexpr std::array<std::string_view, kAlignmentCount> kAlignmentNames = {
     "Lawful-good  ",  "Lawful-neutral  ", "Lawful-evil  ",     "Neutral-good  ", "Neutral  ",

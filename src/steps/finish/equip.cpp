@@ -30,11 +30,11 @@ enum : int {
   kBuy = 3003,
   kAddFree = 3004,
   kCategories = 3021,
-  kGoods = 3022,
-  kOwned = 3023,
-  kSearch = 3024,
-  kAdd = 4001,
-  kRemove = 4002,
+  kGoods = EquipControl::Goods,
+  kOwned = EquipControl::Owned,
+  kSearch = EquipControl::Search,
+  kAdd = EquipControl::Add,
+  kRemove = EquipControl::Remove,
 };
 
 constexpr int kListWidth = 34;

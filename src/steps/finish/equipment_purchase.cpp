@@ -71,7 +71,7 @@ EquipmentRecord* FindGood(Game& game, std::string_view text) {
   for (std::size_t row = 0; row < kEquipmentRows; ++row) {
     for (auto* table : {&game.EquipmentTable, &game.CustomEquipmentTable}) {
       EquipmentRecord& good = (*table)[row];
-      if (Contains(text, good.Name)) return &good;
+      if (!good.Name.Empty() && Contains(text, good.Name)) return &good;
     }
   }
   return nullptr;

@@ -8,10 +8,7 @@ namespace veld {
 
 namespace {
 
-enum : int { kOk = 1, kAbort = 2, kCharacterName = 3000, kPlayerName = 3001 };
-
-/// CharacterName of a character that nobody has named.
-constexpr std::string_view kUnnamed = "name";
+enum : int { kOk = 1, kAbort = 2, kCharacterName = NamingControl::CharacterName, kPlayerName = 3001 };
 
 constexpr ControlTemplate kStepEightteenControls[] = {
     TitleAt(0, 0, "Step 18: Name your character", 2),
@@ -32,7 +29,7 @@ constexpr FormTemplate kStepEightteen{"StepEightteen", "Step 18: Name your chara
 }  // namespace
 
 bool NameCharacter(Game& game, std::string_view characterName, std::string_view playerName) {
-  if (EqualsIgnoringCase(characterName, kUnnamed)) return false;
+  if (EqualsIgnoringCase(characterName, kUnnamedCharacter)) return false;
   game.sheet.CharacterName = characterName;
   game.sheet.PlayerName = playerName;
   return true;

@@ -6,6 +6,14 @@
 
 namespace veld {
 
+/// CharacterName of a character that nobody has named.
+inline constexpr std::string_view kUnnamedCharacter = "name";
+
+/// What a player uses on the page of Step 18.
+namespace NamingControl {
+inline constexpr int CharacterName = 3000;
+}  // namespace NamingControl
+
 /// Names the character and its player. Returns false, with nothing changed, for the name that a character has before it
 /// is named.
 bool NameCharacter(Game& game, std::string_view characterName, std::string_view playerName);

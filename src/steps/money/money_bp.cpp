@@ -9,7 +9,7 @@ namespace veld {
 
 namespace {
 
-enum : int { kOk = 1, kAbort = 2, kLeft = 15, kEntry = 3000 };
+enum : int { kOk = 1, kAbort = 2, kLeft = 15, kEntry = MoneyBPControl::Entry };
 
 constexpr ControlTemplate kMoneyBPControls[] = {
     TextAt(0, 0, 0, "For every BP you spend you add 2-24 to your money roll", 54, 0, 1, 2),

@@ -18,8 +18,8 @@ enum : int {
   kBuildingPoints = 90,
   kAge = 91,
   kMoney = 92,
-  kRollMoney = 4002,
-  kRollAge = 6078
+  kRollMoney = StepTenControl::Money,
+  kRollAge = StepTenControl::Age
 };
 
 constexpr int kNumberWidth = 8;

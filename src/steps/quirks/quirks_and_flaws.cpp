@@ -19,9 +19,9 @@ constexpr int kRollsLeft = 211;
 constexpr int kOtherRolls = 212;
 constexpr int kNext = 213;
 constexpr int kPotentialBP = 216;
-constexpr int kTable = 3115;
-constexpr int kOwed = 3116;
-constexpr int kRoll = 4001;
+constexpr int kTable = QuirksControl::Table;
+constexpr int kOwed = QuirksControl::Owed;
+constexpr int kRoll = QuirksControl::Roll;
 
 constexpr int kTableWidth = 48;
 

@@ -11,6 +11,13 @@ class Form;
 
 // Step 7 by dice: the dialog in which the rolls owed are made.
 
+/// What a player uses where the rolls owed are made: the box of tables, those that are owed, and Roll.
+namespace QuirksControl {
+inline constexpr int Table = 3115;
+inline constexpr int Owed = 3116;
+inline constexpr int Roll = 4001;
+}  // namespace QuirksControl
+
 /// The most rolls on the 6A tables that a player asks for.
 inline constexpr int kMostQuirkRolls = 9;
 

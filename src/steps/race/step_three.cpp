@@ -15,9 +15,9 @@ namespace {
 constexpr int kFirstScore = 3000;
 constexpr int kBuildingPoints = 3014;
 constexpr int kHelp = 3015;
-constexpr int kRaces = 3021;
+constexpr int kRaces = StepThreeControl::Races;
 constexpr int kLanguages = 3028;
-constexpr int kContinue = 3043;
+constexpr int kContinue = StepThreeControl::Continue;
 constexpr int kAbort = 3046;
 constexpr int kRollAgain = 3047;
 

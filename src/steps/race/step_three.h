@@ -6,6 +6,12 @@
 
 namespace veld {
 
+/// What a player uses in the window of Step 3, beside its menu.
+namespace StepThreeControl {
+inline constexpr int Races = 3021;
+inline constexpr int Continue = 3043;
+}  // namespace StepThreeControl
+
 /// Step 3: opens the StepThree window on the abilities just rolled and returns. The player trades and burns points,
 /// picks a race and a native language; Continue closes the window and calls `onContinue`, which runs the rest of the
 /// generation. A window that is still open is closed first, as by its Abort. `onChanged` is called when it has opened

@@ -21,8 +21,8 @@ std::size_t Index(int number) {
   return static_cast<std::size_t>(number);
 }
 
-constexpr int kAccept = 1;
-constexpr int kChoices = 3021;
+constexpr int kAccept = PickControl::Accept;
+constexpr int kChoices = PickControl::Choices;
 
 constexpr ControlTemplate kPickControls[] = {
     LabelAt(0, 0, "Choose &one"),

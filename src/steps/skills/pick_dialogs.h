@@ -13,6 +13,12 @@ namespace veld {
 // Dialogs in which the player picks one thing that is granted. A list that would be empty opens no dialog. The close
 // box drops the grant.
 
+/// What a player uses where one thing is picked.
+namespace PickControl {
+inline constexpr int Accept = 1;
+inline constexpr int Choices = 3021;
+}  // namespace PickControl
+
 /// The pages that a pick is made on.
 enum class PickPage {
   FreeRemote,  ///< "Pick your free skill"

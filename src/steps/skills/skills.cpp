@@ -28,16 +28,16 @@ constexpr int kOk = 1;
 constexpr int kAbort = 2;
 constexpr int kFirstBudget = 25;
 constexpr int kFirstAbility = 50;
-constexpr int kSearch = 3000;
-constexpr int kAvailable = 3026;
-constexpr int kOwned = 3027;
-constexpr int kBonusPoints = 3043;
-constexpr int kTakeAsFree = 3046;
-constexpr int kAdd = 4001;
-constexpr int kProficiencies = 4005;
-constexpr int kTalents = 4006;
+constexpr int kSearch = SkillsControl::Search;
+constexpr int kAvailable = SkillsControl::Available;
+constexpr int kOwned = SkillsControl::Owned;
+constexpr int kBonusPoints = SkillsControl::BonusPoints;
+constexpr int kTakeAsFree = SkillsControl::TakeAsFree;
+constexpr int kAdd = SkillsControl::Add;
+constexpr int kProficiencies = SkillsControl::Proficiencies;
+constexpr int kTalents = SkillsControl::Talents;
 constexpr int kTattoos = 4009;
-constexpr int kCategory = 4045;
+constexpr int kCategory = SkillsControl::Category;
 
 constexpr int kBudgets = 8;
 

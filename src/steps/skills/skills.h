@@ -8,8 +8,17 @@ namespace veld {
 
 class Form;
 
-// What the Skills dialog shows of the skill selected.
+// What the Skills dialog shows of the skill selected, and what a player uses.
 namespace SkillsControl {
+inline constexpr int Search = 3000;
+inline constexpr int Available = 3026;
+inline constexpr int Owned = 3027;
+inline constexpr int BonusPoints = 3043;
+inline constexpr int TakeAsFree = 3046;
+inline constexpr int Add = 4001;
+inline constexpr int Proficiencies = 4005;
+inline constexpr int Talents = 4006;
+inline constexpr int Category = 4045;
 inline constexpr int Price = 90;
 inline constexpr int Abilities = 91;
 inline constexpr int Die = 92;

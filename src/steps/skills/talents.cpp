@@ -16,11 +16,11 @@ enum : int {
   kCostHead = 92,
   kBuildingPointsHead = 93,
   kPage = 95,
-  kOffered = 3024,
+  kOffered = TalentsControl::Offered,
   kHeld = 3025,
   kSearch = 3026,
-  kNote = 3027,
-  kAdd = 4001,
+  kNote = TalentsControl::Note,
+  kAdd = TalentsControl::Add,
   kRemove = 4002,
 };
 

@@ -239,7 +239,7 @@ void SaveSpellBooks(Game& game) {
   for (std::size_t book = 0; book < kSpellBooks; ++book) {
     const SpellBook& saved = game.sheet.SpellBooks[book];
     if (saved.Name.Empty() || !game.platform.Confirms("Save", Format("Save %s SpellBook?", saved.Name))) continue;
-    if (game.platform.IsReplaying()) continue;
+    if (game.platform.LeavesNoTrace()) continue;
     if (!SaveWholeFile(SpellBookFileName(game, book), SpellBookText(game, book))) {
       game.platform.ShowMessage("Problem Saving Spellbook");
     }

@@ -15,11 +15,11 @@ namespace veld {
 
 namespace {
 
-constexpr int kMasterCombo = 3115;
+constexpr int kMasterCombo = SpellControl::MasterBox;
 constexpr int kOwnCombo = 3116;
-constexpr int kMasterList = 3021;
+constexpr int kMasterList = SpellControl::MasterList;
 constexpr int kOwnList = 3022;
-constexpr int kAdd = 4001;
+constexpr int kAdd = SpellControl::Add;
 constexpr int kRemove = 4002;
 constexpr int kAddBelow = 4003;
 constexpr int kClose = 2;
@@ -251,7 +251,10 @@ void LearnCantrips(Game& game, std::span<const std::size_t> rows) {
 std::vector<std::size_t> SpellsToLearn(const Game& game, std::string_view category) {
   std::vector<std::size_t> rows;
   for (std::size_t row = 0; row < kSpellRows; ++row) {
-    if (game.sheet.SpellsKnown[row] == kUnknownSpell && game.SpellTable[row].Category == category) rows.push_back(row);
+    const auto& own = game.SpellTable[row].Category;
+    // Nearly all rows fall out by the first letter.
+    if (!category.empty() && own.bytes[0] != category.front()) continue;
+    if (game.sheet.SpellsKnown[row] == kUnknownSpell && own == category) rows.push_back(row);
   }
   return rows;
 }

@@ -9,6 +9,13 @@
 
 namespace veld {
 
+/// What a player uses in the dialogs in which spells are chosen: the box of lists, the spells of one, and Add.
+namespace SpellControl {
+inline constexpr int MasterBox = 3115;
+inline constexpr int MasterList = 3021;
+inline constexpr int Add = 4001;
+}  // namespace SpellControl
+
 /// True for a character with cantrips to choose or spells to be dealt. (A Blood Mage has spells but no cantrips.)
 bool HasSpells(const Game& game);
 
