@@ -3,33 +3,22 @@
 #include <memory>
 #include <string>
 
-#include "platform/platform.h"
+#include "platform/no_front_end.h"
 #include "store/game.h"
 
 namespace veld {
 
 /// Nobody sits before it: what the program tells goes to standard error, each question is left open, and a page that
 /// would be shown is closed. No log and no copy is written.
-class PromptPlatform : public Platform {
+class PromptPlatform : public NoFrontEnd {
  public:
   void RunForm(Form& form) override;
   void ShowWindow(std::shared_ptr<Form> form) override;
-  void RunMainWindow(const MainWindow&) override {}
-  void CloseMainWindow() override {}
-  void SetMainTitle(std::string_view) override {}
-  void BeginProgress(std::string_view, std::string_view) override {}
-  bool ShowProgress(int) override { return true; }
-  void EndProgress() override {}
   bool LeavesNoTrace() const override { return true; }
 
  protected:
   void DoShowMessage(const std::string& caption, const std::string& text) override;
   Answer DoAskYesNo(const std::string&, const std::string&) override { return Answer::Closed; }
-  std::optional<std::string> DoAskOpenPath(const std::string&, std::span<const FileFilter>) override { return {}; }
-  std::optional<ChosenPath> DoAskSavePath(const std::string&, std::span<const FileFilter>,
-                                          const std::string&) override {
-    return {};
-  }
 };
 
 /// A game that the program throws the dice of, with all books in use.

@@ -8,7 +8,7 @@
 #include "npc/npc_calling.h"
 #include "npc/npc_class_rows.h"
 #include "platform/form.h"
-#include "platform/platform.h"
+#include "platform/no_front_end.h"
 
 namespace veld {
 
@@ -24,7 +24,7 @@ struct NpcWeapon {
 
 /// Plays the generation of one character, form by form. A form that he does not know he answers with its first choices
 /// and its OK, else he leaves it by its close box; every form is left in the end.
-class NpcPlayer : public Platform {
+class NpcPlayer : public NoFrontEnd {
  public:
   /// Learns the names of the goods that are sold: once for a list, which must outlive its use.
   void LearnGoods(const Game& game);
@@ -41,23 +41,12 @@ class NpcPlayer : public Platform {
 
   void RunForm(Form& form) override;
   void ShowWindow(std::shared_ptr<Form> form) override;
-  void RunMainWindow(const MainWindow&) override {}
-  void CloseMainWindow() override {}
-  void SetMainTitle(std::string_view) override {}
-  void BeginProgress(std::string_view, std::string_view) override {}
-  bool ShowProgress(int) override { return true; }
-  void EndProgress() override {}
   std::int64_t Now() const override { return 1; }
   bool LeavesNoTrace() const override { return true; }
 
  protected:
   void DoShowMessage(const std::string&, const std::string&) override {}
   Answer DoAskYesNo(const std::string& caption, const std::string& text) override;
-  std::optional<std::string> DoAskOpenPath(const std::string&, std::span<const FileFilter>) override { return {}; }
-  std::optional<ChosenPath> DoAskSavePath(const std::string&, std::span<const FileFilter>,
-                                          const std::string&) override {
-    return {};
-  }
 
  private:
   // A page each.

@@ -4,15 +4,14 @@
 #include <vector>
 
 #include "platform/form.h"
-#include "platform/main_window.h"
-#include "platform/platform.h"
+#include "platform/no_front_end.h"
 
 namespace veld::testing {
 
 /// A player who presses any button in any order and fills any field with numbers and texts that make sense or don't.
 /// Every dialog is left in the end: by its OK where it lets go, else by its close box. A seed gives the same play
 /// again.
-class RandomPlayer : public Platform {
+class RandomPlayer : public NoFrontEnd {
  public:
   explicit RandomPlayer(std::uint32_t seed, int actionsPerForm = 60) : state_(seed), actionsPerForm_(actionsPerForm) {}
 
@@ -30,18 +29,12 @@ class RandomPlayer : public Platform {
 
   void RunForm(Form& form) override;
   void ShowWindow(std::shared_ptr<Form> form) override;
-  void RunMainWindow(const MainWindow&) override {}
-  void CloseMainWindow() override {}
-  void SetMainTitle(std::string_view) override {}
-  void BeginProgress(std::string_view, std::string_view) override {}
   bool ShowProgress(int) override { return Pick(4) != 0; }
-  void EndProgress() override {}
   std::int64_t Now() const override { return state_; }
 
  protected:
   void DoShowMessage(const std::string& caption, const std::string& text) override;
   Answer DoAskYesNo(const std::string& caption, const std::string& text) override;
-  std::optional<std::string> DoAskOpenPath(const std::string&, std::span<const FileFilter>) override { return {}; }
   std::optional<ChosenPath> DoAskSavePath(const std::string&, std::span<const FileFilter>, const std::string&) override;
 
  private:
