@@ -15,7 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* kCorpus = VELD_SOURCE_DIR "/fuzz/corpus/character_file";
+constexpr const char* kCorpus = VELD_SOURCE_DIR "/fuzz/corpus";
 
 struct Output {
   std::string Text;
@@ -120,7 +120,8 @@ TEST_F(CliTest, ThrowsDiceThatASeedGivesAgain) {
 
 /// Whatever bytes a file holds: it is a character in every format, or it is told why not.
 TEST_F(CliTest, HostileFilesEndInAStatus) {
-  for (const auto& entry : fs::directory_iterator(kCorpus)) {
+  for (const auto& entry : fs::recursive_directory_iterator(kCorpus)) {
+    if (!entry.is_regular_file()) continue;
     const std::string file = "'" + entry.path().string() + "'";
     const Output check = RunCli("check " + file);
     ASSERT_TRUE(check.Status == 0 || check.Status == 1) << file;
