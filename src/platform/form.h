@@ -107,7 +107,10 @@ class Form {
   /// types; else a list; else the default button; else whatever can be pressed. The number of controls if there is
   /// none.
   std::size_t FirstFocus() const;
-  void BeginAt(int id) { beginAt_ = id; }  ///< lets this control, if it can be used, have the focus first; 0: none
+  /// Lets this control, if it can be used, have the focus first; 0 leaves it to the one that was wanted before.
+  void BeginAt(int id) {
+    if (id != 0) beginAt_ = id;
+  }
   void Open();  ///< calls onOpened, the first time
   bool Press(int id);
   bool Choose(int id, int selection);

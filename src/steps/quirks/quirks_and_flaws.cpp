@@ -33,8 +33,8 @@ constexpr ControlTemplate EnterRolls(ControlTemplate tables) {
 
 constexpr ControlTemplate kQuirksandFlawsControls[] = {
     TitleAt(0, 0, "Step 7: Quirks and Flaws", 2),
-    LabelAt(1, 1, "&Table"),
     ButtonAt(2, 0, kRoll, "&Roll for Quirk or Flaw ->"),
+    LabelAt(2, 1, "&Table"),
     EnterRolls(ComboAt(2, 1, kTable, kTableWidth)),
     LabelAt(3, 0, "Next:"),
     ResultAt(3, 1, kNext, kTableWidth + 10),
