@@ -71,6 +71,8 @@ constexpr const char* kNames[] = {
     "MoneyBP",
     "Options",
     "PackageSelect",
+    "PartySheet",
+    "Print",
     "PriorEdit",
     "Question",
     "QuirksandFlaws",
@@ -118,6 +120,7 @@ class Visitor : public RandomPlayer {
     if (form.IsClosed()) return;
     Meet(form);
     const std::string_view name = form.Name();
+    if (name == "Print" || name == "PartySheet") return form.Close();  // their buttons write paper
     const bool isAllotment = name.ends_with("Abilities") && name != "EditAbilities";
     if (name == "StepNine" && !form.Items(kClassList).empty()) {
       form.Choose(kClassList, static_cast<int>(Pick(static_cast<std::uint32_t>(form.Items(kClassList).size()))));
@@ -207,7 +210,7 @@ std::set<std::string> ShowEveryForm(const std::function<void(Form& form, bool is
     if (player.window) player.window->Close();
     if (seed == 1) VisitRareForms(player);
     for (const int command : {kEdit, kInputCharacter, kHonorTracking, kCriticalHits, kDiceRoller, kOptions,
-                              kCustomItems, kAbout, kRecover}) {
+                              kCustomItems, kAbout, kRecover, kPrint, kPartySheet}) {
       if (seed % 8 == 1) RunMainCommand(*player.game, command);
     }
   }

@@ -22,7 +22,7 @@ enum : int {
   kRollAge = 6078
 };
 
-constexpr int kNumberWidth = 8;
+constexpr int kNumberWidth = 6;
 
 constexpr ControlTemplate kStepTenControls[] = {
     TitleAt(0, 0, "Step 10: Finish Background", 3),
