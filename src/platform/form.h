@@ -74,8 +74,8 @@ class Form {
   /// A player chose a row of a list or combo. Or he typed in the field that searches it: that chooses the first row
   /// found, once onEdit has filled it, and none if nothing is found or the search is cleared.
   std::function<void(int id)> onSelect;
-  std::function<void(int id)> onEdit;     ///< a player typed
-  std::vector<MenuItem> contextMenu;      ///< the menu of a right click; its ids go to onCommand
+  std::function<void(int id)> onEdit;  ///< a player typed
+  std::vector<MenuItem> contextMenu;   ///< the menu of a right click; its ids go to onCommand
 
   // For handlers.
   const std::string& Text(int id) const;

@@ -65,8 +65,8 @@ bool IsButtonRow(const Page& page, int row) {
   });
 }
 
-/// How boxes stand in a row. The buttons that end a page keep their height on a dense one too, where it has a blank line
-/// above them in any case.
+/// How boxes stand in a row. The buttons that end a page keep their height on a dense one too, where it has a blank
+/// line above them in any case.
 const PageDensity& DensityOf(const Page& page, int row) {
   const bool endsPage = row + 1 == static_cast<int>(page.rows.size()) && page.hasBlanks && IsButtonRow(page, row);
   return endsPage ? page.metrics.Roomy : page.Density();

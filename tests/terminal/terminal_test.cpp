@@ -179,7 +179,8 @@ TEST_F(TerminalTest, EveryCommandOfTheMenusIsReachedByKeyboard) {
   opens("fl", "Load");
   opens("fr", "VELD");  // nothing to recover yet
 
-  // The keys that a menu shows beside its items; a terminal would stop at the first and suspend the program at the last.
+  // The keys that a menu shows beside its items; a terminal would stop at the first and suspend the program at the
+  // last.
   for (const auto& [key, title] : {std::pair{"\x13", "Save"}, {"\x0F", "Load"}, {"\x05", "VELD"}, {"\x1A", "VELD"}}) {
     program.Press(key);
     EXPECT_EQ(program.Title(), title) << program.Shows();
