@@ -65,11 +65,12 @@ bool IsButtonRow(const Page& page, int row) {
   });
 }
 
-/// How boxes stand in a row. The buttons that end a page keep their height on a dense one too, where it has a blank
-/// line above them in any case.
+/// How boxes stand in a row. The buttons that end a page keep their height on a dense one too, where a blank line above
+/// them makes room for that.
 const PageDensity& DensityOf(const Page& page, int row) {
-  const bool endsPage = row + 1 == static_cast<int>(page.rows.size()) && page.hasBlanks && IsButtonRow(page, row);
-  return endsPage ? page.metrics.Roomy : page.Density();
+  const bool isLast = row > 0 && row + 1 == static_cast<int>(page.rows.size());
+  const bool hasBlankAbove = isLast && page.hasBlanks && page.rows[static_cast<std::size_t>(row) - 1].IsKnown;
+  return hasBlankAbove && IsButtonRow(page, row) ? page.metrics.Roomy : page.Density();
 }
 
 /// How far below its first line the control at a place of the cell stands, where the row is broken.
