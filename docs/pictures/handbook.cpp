@@ -171,11 +171,11 @@ void TakeHandbookPictures(Studio& studio) {
   player.parts["Skills"] = [&](Form& form) {
     Press(form, "Proficiencies");
     for (const char* skill : {"Swimming: Dog Paddle", "Fire-building", "Rope Use", "Animal Lore", "Hunting"}) {
-      Buy(form, "Skills", skill, "Add/Improve Skill");
+      Buy(form, "Skills to learn", skill, "Add/Improve Skill");
     }
     Type(form, "Search", "");
-    Choose(form, "Skills", "Map Sense");
-    studio.TakeWindow(form, "skills", Named(form, "Skills", false));
+    Choose(form, "Skills to learn", "Map Sense");
+    studio.TakeWindow(form, "skills", Named(form, "Skills to learn", false));
     Press(form, "OK");
   };
   player.parts["StepFourteen"] = [](Form& form) { Choose(form, "Step 14: Choose an Alignment", "Neutral-good"); };

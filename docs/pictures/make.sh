@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
-# Builds the program and takes pictures of its windows, without a screen.
+# Builds the program and takes pictures of its pages, without a screen.
 #   docs/pictures/make.sh            those of the handbook, into docs/screenshots
-#   docs/pictures/make.sh FOLDER     every form on a screen of 1024 x 768, as it opens and in use, into FOLDER: light and
-#                                    dark, at the usual size and twice as fine; then sheets of nine, to be looked through
+#   docs/pictures/make.sh FOLDER     every page as it opens and in use, into FOLDER: on a screen of 1024 x 768, light and
+#                                    dark, at the usual size and twice as fine, with sheets of nine to be looked through;
+#                                    and as text in FOLDER/terminal, as it stands at a terminal of 80 x 24, with its help
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 
@@ -10,8 +11,9 @@ scripts/install-packages.sh g++ cmake ninja-build qt6-base-dev libqt6widgets6 fo
   libxml2-dev libcairo2-dev libpango1.0-dev imagemagick
 build=${VELD_BUILD:-build/sanitize}
 [ -n "${VELD_BUILD:-}" ] || scripts/configure.sh sanitize
-cmake --build "$build" --target veld_pictures -- --quiet
-pictures=$PWD/$build/bin/veld_pictures
+cmake --build "$build" --target veld_pictures veld_terminal_pages -- --quiet
+programs=$PWD/$build/bin
+export ASAN_OPTIONS=detect_leaks=0
 screen=$(mktemp)
 trap 'rm -f "$screen"' EXIT
 
@@ -20,8 +22,8 @@ take() {
   printf '{"screens":[{"name":"desk","x":0,"y":0,"width":%d,"height":%d,"logicalDpi":96,"logicalBaseDpi":96,"dpr":1}]}' \
     $((1024 * $1)) $((768 * $1)) >"$screen"
   mkdir -p "$2"
-  ASAN_OPTIONS=detect_leaks=0 QT_QPA_PLATFORM=offscreen:configfile=$screen QT_SCALE_FACTOR=$1 QT_LOGGING_RULES='*.warning=false' \
-    timeout 300 "$pictures" "$2" "$3" "$4"
+  QT_QPA_PLATFORM=offscreen:configfile=$screen QT_SCALE_FACTOR=$1 QT_LOGGING_RULES='*.warning=false' \
+    timeout 300 "$programs/veld_pictures" "$2" "$3" "$4"
 }
 
 if [ $# -eq 0 ]; then
@@ -45,3 +47,4 @@ for scale in 1 2; do
     done
   done
 done
+timeout 600 "$programs/veld_terminal_pages" "$folder/terminal"

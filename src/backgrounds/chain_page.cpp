@@ -23,6 +23,7 @@ void NoteChanges(ChainPage& page) {
   page.brought.push_back(page.table);
   for (const std::string& change : changes) page.brought.push_back("  " + change);
   page.form.SetItems(ChainControl::Brought, page.brought);
+  page.form.Select(ChainControl::Brought, static_cast<int>(page.brought.size()) - 1);  // the newest is in sight
 }
 
 /// Names what is being rolled; what an outer table has done so far is listed as its own.

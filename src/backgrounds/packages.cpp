@@ -351,6 +351,7 @@ void RunPackageSelect(Game& game, PackageList list) {
     form.SetItems(kPackages, {names.begin(), names.end()});
     form.Select(kPackages, 0);
     ShowPackage(game, form);
+    form.Focus(kNoPackageButton);  // an Enter too many must not buy the first
   };
   form.onSelect = [&](int) { ShowPackage(game, form); };
   form.onCommand = [&](int id) {

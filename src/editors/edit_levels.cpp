@@ -42,7 +42,8 @@ constexpr auto kControls = [] {
   controls[next++] = TitleAt(0, 0, "Levels and hit points", 5);
   controls[next++] = LabelAt(1, 0, "&Class");
   controls[next++] = ComboAt(1, 0, kClasses, 22);
-  controls[next++] = ListAt(2, 0, kLevels, 29, kRows, kRows);
+  controls[next] = ListAt(2, 0, kLevels, 29, kRows, kRows);
+  controls[next++].EnterPresses = kSet;  // not the dice
   for (int number = 0; number < kNumbers; ++number) {
     const int row = 2 + number % kRows;
     const int column = 1 + 2 * (number / kRows);
@@ -87,7 +88,7 @@ class LevelsPage {
       form_.SetItems(kClasses, std::move(names));
       form_.Select(kClasses, 0);
       ShowLevels(HighestShown());
-      form_.Focus(kRoll);
+      form_.Focus(kLevels);
     };
     form_.onSelect = [this](int id) {
       if (id == kClasses) ShowLevels(HighestShown());

@@ -82,6 +82,7 @@ class OpenPage {
     form_.onOpened = [this] {
       ShowFields();
       Tell(Told());
+      form_.Focus(kFirstField);
     };
     form_.onEdit = [this](int id) { Take(id); };
     form_.onSelect = [this](int id) { Take(id); };

@@ -34,6 +34,7 @@ enum : int {
   kWhat = 4,
   kNext = 5,
   kFirstPage = 100,
+  kFirstOften = kFirstPage + 2,  // Experience and classes
 };
 
 /// Who edits: a referee the character in memory, or a player who copies his own from paper.
@@ -171,7 +172,10 @@ std::size_t NextOnPaper(const Game& game, std::size_t page) {
 class EditorHub {
  public:
   EditorHub(Game& game, EditMode mode) : game_(game), mode_(mode), form_(mode == EditMode::Paper ? kEnter : kMainEdit) {
-    form_.onOpened = [this] { Show(); };
+    form_.onOpened = [this] {
+      form_.Focus(kFirstOften);
+      Show();
+    };
     form_.onCommand = [this](int id) { Command(id); };
   }
 
@@ -200,7 +204,7 @@ class EditorHub {
   void Accept() {
     if (game_.sheet.ClassName == kNoClass) {
       game_.platform.ShowMessage("A character needs a class before he can be kept: see Experience and classes.");
-      return form_.Focus(kFirstPage + 2);
+      return form_.Focus(kFirstOften);
     }
     isAccepted_ = true;
     form_.Close();

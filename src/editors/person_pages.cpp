@@ -250,7 +250,7 @@ void RunEditPerson(Game& game) {
       TextChoiceField("Gender", &Sheet::Gender, 10, {"Male", "Female"}),
       TakesAfterField(),
       TextField(
-          "Native language", [](auto& sheet) -> auto& { return NativeLanguageName(sheet); }, 20),
+          "Native language", [](auto& sheet) -> auto& { return NativeLanguageName(sheet); }, 24),
       AlignmentField(),
       TextField("Package", &Sheet::PackageName, 20),
       TextField("Hermit: second text", &Sheet::HermitField, 20),

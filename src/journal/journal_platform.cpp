@@ -172,9 +172,16 @@ void JournalPlatform::PlayRun() {
   if (isReplaying_) GoLive();
   if (window_ && !window_->IsClosed()) {
     window_->SetActs(this);
-    window_->BeginAt(std::exchange(takenBackAt_, 0));
+    BeginWhereTakenBack(*window_);
     front_.ShowWindow(window_);
   }
+}
+
+/// What was taken back has the focus again; but not the button that left the page, for Enter would leave it once more.
+void JournalPlatform::BeginWhereTakenBack(Form& form) {
+  const int id = std::exchange(takenBackAt_, 0);
+  const auto control = std::ranges::find(form.Controls(), id, [](const Control& c) { return c.Template.Id; });
+  if (control != form.Controls().end() && !IsCancel(control->Template.Role)) form.BeginAt(id);
 }
 
 void JournalPlatform::GoLive() {
@@ -299,7 +306,7 @@ void JournalPlatform::RunLive(Form& form) {
   {
     const Watch watch(*this, form);
     WriteNote();
-    form.BeginAt(std::exchange(takenBackAt_, 0));
+    BeginWhereTakenBack(form);
     front_.RunForm(form);
   }
   if (isUnwinding_) throw RunUnwound();

@@ -87,6 +87,7 @@ class JournalPlatform : public Platform, private FormActs {
   void PlayForm(Form& form);
   bool PlayEntry(Form& form);
   void RunLive(Form& form);
+  void BeginWhereTakenBack(Form& form);
   void GoLive();
   void BreakOff();
   std::optional<std::string> AskPath(const std::function<std::optional<std::string>()>& ask);
@@ -102,7 +103,7 @@ class JournalPlatform : public Platform, private FormActs {
   std::string note_;              ///< the last one written
   std::int64_t flushedAt_ = 0;    ///< when the disk was last waited for, in seconds
   std::size_t next_ = 0;          ///< the entry to be played next
-  int takenBackAt_ = 0;           ///< the control of the act just taken back, which has the focus again
+  int takenBackAt_ = 0;           ///< the control of the act just taken back
   int depth_ = 0;                 ///< procedures of the run that are at work
   bool isReplaying_ = false;
   bool isBegun_ = false;  ///< the clock of the journal still holds: the run throws its first dice

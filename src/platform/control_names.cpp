@@ -78,12 +78,24 @@ std::string RowName(const Form& form, std::size_t control) {
   return {};
 }
 
-/// What names the column: the first label or heading over the controls above it.
+/// The heading of several columns that stands over the caption of one of them.
+std::string GroupName(const Form& form, const ControlTemplate& caption) {
+  const auto heads = [&](const Control& other) {
+    const ControlTemplate& head = other.Template;
+    return head.Kind == ControlKind::Heading && head.Row == caption.Row - 1 && head.ColumnSpan > 1 &&
+           head.Column <= caption.Column && caption.Column < head.Column + head.ColumnSpan;
+  };
+  const auto head = std::ranges::find_if(form.Controls(), heads);
+  return head == form.Controls().end() ? std::string() : head->Text + " ";
+}
+
+/// What names the column: the first label or heading over the controls above it, with the heading over that.
 std::string ColumnName(const Form& form, std::size_t control) {
   const auto& controls = form.Controls();
   std::size_t above = Vertical(form, control, -1);
   while (above < controls.size() && CanBeUsed(controls[above].Template.Kind)) above = Vertical(form, above, -1);
-  return above < controls.size() && IsCaption(controls[above].Template.Kind) ? ShownText(controls[above]) : "";
+  if (above == controls.size() || !IsCaption(controls[above].Template.Kind)) return {};
+  return GroupName(form, controls[above].Template) + ShownText(controls[above]);
 }
 
 /// What names a control that has no label: the text above it, which asks for something, or the heading of its column;
@@ -106,7 +118,10 @@ std::string NameInTable(const Form& form, std::size_t control, const std::string
   const std::string row = RowName(form, control);
   const std::string column = ColumnName(form, control);
   const bool hasText = !form.Controls()[control].Text.empty() && HasMnemonic(form.Controls()[control].Template.Kind);
-  if (!hasText && !row.empty() && !column.empty()) return row + ", " + column;
+  if (!hasText && !row.empty() && !column.empty()) {
+    const bool isNumbered = row.find_first_not_of("0123456789") == std::string::npos;
+    return isNumbered ? column + ", row " + row : row + ", " + column;
+  }
   const std::string& more = row.empty() || row == name ? column : row;
   return more.empty() || more == name ? name : name + ", " + more;
 }
@@ -118,7 +133,6 @@ std::size_t NamedControl(const Form& form, std::size_t label) {
   const std::size_t none = controls.size();
   const std::size_t right = Neighbour(form, label, false);
   if (right < none && CanBeUsed(controls[right].Template.Kind)) return right;
-  if (right < none && controls[right].Template.Kind == ControlKind::Text) return none;
   if (right < none && controls[right].Template.Kind == ControlKind::Result) {
     // What the character has may stand between a label and the field to type in.
     std::size_t field = right;
@@ -126,7 +140,9 @@ std::size_t NamedControl(const Form& form, std::size_t label) {
     return field < none && IsField(controls[field].Template.Kind) ? field : none;
   }
   const std::size_t below = Vertical(form, label, 1);
-  return below < none && CanBeUsed(controls[below].Template.Kind) ? below : none;
+  if (below == none || !CanBeUsed(controls[below].Template.Kind)) return none;
+  const bool namesText = right < none && controls[right].Template.Kind == ControlKind::Text;
+  return namesText && controls[below].Template.Kind != ControlKind::List ? none : below;
 }
 
 std::size_t ControlInNextRow(const Form& form, std::size_t control, int rows) {

@@ -128,7 +128,9 @@ void Form::SetTitle(std::string_view title) {
 
 void Form::Focus(int id) {
   const Control* control = Find(id);
-  if (control && observer_) observer_->OnFocusWanted(static_cast<std::size_t>(control - controls_.data()));
+  if (!control) return;
+  if (!observer_) return BeginAt(id);  // whoever shows the form later begins there
+  observer_->OnFocusWanted(static_cast<std::size_t>(control - controls_.data()));
 }
 
 void Form::Close() {

@@ -74,8 +74,8 @@ class Form {
   /// A player chose a row of a list or combo. Or he typed in the field that searches it: that chooses the first row
   /// found, once onEdit has filled it, and none if nothing is found or the search is cleared.
   std::function<void(int id)> onSelect;
-  std::function<void(int id)> onEdit;     ///< a player typed
-  std::vector<MenuItem> contextMenu;      ///< the menu of a right click; its ids go to onCommand
+  std::function<void(int id)> onEdit;  ///< a player typed
+  std::vector<MenuItem> contextMenu;   ///< the menu of a right click; its ids go to onCommand
 
   // For handlers.
   const std::string& Text(int id) const;
@@ -107,7 +107,10 @@ class Form {
   /// types; else a list; else the default button; else whatever can be pressed. The number of controls if there is
   /// none.
   std::size_t FirstFocus() const;
-  void BeginAt(int id) { beginAt_ = id; }  ///< lets this control, if it can be used, have the focus first; 0: none
+  /// Lets this control, if it can be used, have the focus first; 0 leaves it to the one that was wanted before.
+  void BeginAt(int id) {
+    if (id != 0) beginAt_ = id;
+  }
   void Open();  ///< calls onOpened, the first time
   bool Press(int id);
   bool Choose(int id, int selection);

@@ -57,9 +57,25 @@ bool CanBeCapped(const Page& page, std::size_t place) {
   return Stretches(control.Kind) && !(page.scrolls && control.Kind == ControlKind::Text && control.Lines == 0);
 }
 
+/// A row of several buttons and nothing else, as the one that ends a form.
+bool IsButtonRow(const Page& page, int row) {
+  const auto isButton = [&](std::size_t c) { return page.KindOf(c) == ControlKind::Button; };
+  return std::ranges::all_of(page.cells, [&](const Cell& cell) {
+    return cell.Row != row || (cell.Controls.size() > 1 && std::ranges::all_of(cell.Controls, isButton));
+  });
+}
+
+/// How boxes stand in a row. The buttons that end a page keep their height on a dense one too, where a blank line above
+/// them makes room for that.
+const PageDensity& DensityOf(const Page& page, int row) {
+  const bool isLast = row > 0 && row + 1 == static_cast<int>(page.rows.size());
+  const bool hasBlankAbove = isLast && page.hasBlanks && page.rows[static_cast<std::size_t>(row) - 1].IsKnown;
+  return hasBlankAbove && IsButtonRow(page, row) ? page.metrics.Roomy : page.Density();
+}
+
 /// How far below its first line the control at a place of the cell stands, where the row is broken.
 int LinesAbove(const Page& page, const Cell& cell, std::size_t place) {
-  return cell.LineOf(place) * (page.HasKind(cell, IsBox) ? page.Density().BoxLines : 1);
+  return cell.LineOf(place) * (page.HasKind(cell, IsBox) ? DensityOf(page, cell.Row).BoxLines : 1);
 }
 
 int WantedLines(const Page& page, const Cell& cell, int cap) {
@@ -103,7 +119,7 @@ int CornerLines(const Page& page) {
 
 void PlanRow(Page& page, int place, int cap) {
   Row& row = page.RowAt(place);
-  const PageDensity& density = page.Density();
+  const PageDensity& density = DensityOf(page, place);
   const bool hasBox = RowHas(page, place, IsBox);
   row.TextLine = hasBox ? density.BoxLines - 1 : 0;
   row.Lines = hasBox ? density.BoxLines : 1;
@@ -119,14 +135,6 @@ void PlanRow(Page& page, int place, int cap) {
     row.Lines = std::max(row.Lines, CornerLines(page));
 }
 
-/// A row of several buttons and nothing else, as the one that ends a form.
-bool IsButtonRow(const Page& page, int row) {
-  const auto isButton = [&](std::size_t c) { return page.KindOf(c) == ControlKind::Button; };
-  return std::ranges::all_of(page.cells, [&](const Cell& cell) {
-    return cell.Row != row || (cell.Controls.size() > 1 && std::ranges::all_of(cell.Controls, isButton));
-  });
-}
-
 /// The blank line between a row and the one above it: under boxes that hang over their line, above headings, and above
 /// a row of buttons that stands densely.
 int LinesBefore(Page& page, int place, int above) {
@@ -134,7 +142,8 @@ int LinesBefore(Page& page, int place, int above) {
   const bool isUnderBoxes = RowHas(page, above, IsBox) && !RowHas(page, place, IsBox) && BoxOverhang(page) + frame > 0;
   if (isUnderBoxes) return 1;
   if (!page.hasBlanks || RowHas(page, above, [](ControlKind kind) { return kind == ControlKind::Title; })) return 0;
-  const bool endsDenseRows = !page.isRoomy && IsButtonRow(page, place) && !IsButtonRow(page, above);
+  const bool isDense = &DensityOf(page, place) == &page.metrics.Dense;
+  const bool endsDenseRows = isDense && IsButtonRow(page, place) && !IsButtonRow(page, above);
   const bool isUnderHeading = RowHas(page, above, [](ControlKind kind) { return kind == ControlKind::Heading; });
   return (IsHeadingRow(page, place) && !isUnderHeading) || endsDenseRows ? 1 : 0;
 }
@@ -238,7 +247,7 @@ void ScrollText(Page& page, std::size_t place) {
 
 void PlaceDown(Page& page, const Cell& cell) {
   const PageMetrics& m = page.metrics;
-  const PageDensity& density = page.Density();
+  const PageDensity& density = DensityOf(page, cell.Row);
   const Row& row = page.RowAt(cell.Row);
   for (std::size_t i = 0; i < cell.Controls.size(); ++i) {
     const std::size_t place = cell.Controls[i];

@@ -12,7 +12,7 @@ struct MenuItem {
   std::string Text;
   std::vector<MenuItem> Items = {};
   bool Enabled = true;
-  std::string Shortcut = {};  ///< "Ctrl+Z": chooses it without the menu, on a desktop; in a terminal F1 alone does
+  std::string Shortcut = {};  ///< "Ctrl+Z", "F1": chooses it without the menu
 };
 
 }  // namespace veld

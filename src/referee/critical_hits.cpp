@@ -59,7 +59,11 @@ constexpr ControlTemplate kCriticalHitControls[] = {
      .Width = kPageWidth,
      .Lines = 2,
      .ColumnSpan = 5},
-    TextAt(4, 0, kMeaning, "", kPageWidth, 10, 1, 5),
+    TextAt(
+        4, 0, kMeaning,
+        "Roll or type the d10,000 and the severity level, then press Use the numbers: the hit stands here, and what it "
+        "means.",
+        kPageWidth, 10, 1, 5),
     LabelAt(5, 0, "&Last results", 5),
     {.Kind = ControlKind::List, .Id = kLastResults, .Row = 6, .Width = kPageWidth, .Lines = 10, .ColumnSpan = 5},
     LabelAt(7, 0, "&Notation"),

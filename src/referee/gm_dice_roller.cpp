@@ -90,7 +90,7 @@ constexpr ControlTemplate kAboveRows[] = {
     ButtonAt(kNamesRow, 0, kLoadPackage, "&Load"),
     ButtonAt(kNamesRow, 0, kSavePackage, "&Save"),
     Spanning(ResultAt(kNoteRow, 0, kNote, 40), kHonorColumn),
-    HeadingAt(kNoteRow, kHonorColumn, "Honor Modifier"),
+    HeadingAt(kNoteRow, kHonorColumn, "Honor Modifier", 3),
     HeadingAt(kHeadRow, kIncludeColumn, "Incl."),
     HeadingAt(kHeadRow, kTimesColumn, "Times"),
     HeadingAt(kHeadRow, kSidesColumn, "Sides"),

@@ -240,6 +240,21 @@ std::string TalentsText(const CharacterSheet& sheet) {
   return text;
 }
 
+/// The spells known, a line for each level, cantrips first: who was dealt his spells sees them here.
+void AddSpells(Page& page, const Game& game) {
+  std::string shown;  // the level whose line is the last one
+  for (const std::size_t row : KnownSpells(game)) {
+    const SpellRecord& spell = game.SpellTable[row];
+    const std::string level = spell.Level < 1 ? "Cantrips" : Format("Level %i", spell.Level);
+    if (shown.empty()) page.push_back({.What = Kind::Heading, .Value = "Spells"});
+    if (std::exchange(shown, level) == level) {
+      AddName(page.back().Value, Trimmed(spell.Name));
+    } else {
+      AddFact(page, level, Trimmed(spell.Name));
+    }
+  }
+}
+
 std::string QuirksText(const CharacterSheet& sheet) {
   std::string text;
   for (int row = 0; row < kQuirkRows; ++row) {
@@ -278,6 +293,7 @@ std::vector<PageLine> CharacterPage(const Game& game) {
   AddSection(page, "Weapons", WeaponsText(game));
   AddSection(page, "Talents", TalentsText(sheet));
   AddSection(page, "Skills", SkillsText(sheet));
+  AddSpells(page, game);
   AddSection(page, "Quirks and Flaws", QuirksText(sheet));
   return page;
 }

@@ -48,6 +48,7 @@ void RunOptions(Game& game) {
     for (const RuleSwitchRow& row : kRuleSwitchRows) {
       if (HasBox(row)) form.SetChecked(row.BoxId, game.RuleSwitches[row.Switch] > 0);
     }
+    form.Focus(std::ranges::find_if(kRuleSwitchRows, HasBox)->BoxId);
   };
   form.onCommand = [&](int id) {
     if (id == kClose) return form.Close();

@@ -481,6 +481,8 @@ void FormScreen::HandleKey(const Key& key) {
     case KeyKind::Character:
       if (!PressLetter(key.Character)) screen_.Beep();
       return;
+    case KeyKind::Shortcut:  // of the main window, which is not in front
+      return screen_.Beep();
     default:
       return;
   }

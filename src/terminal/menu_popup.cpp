@@ -12,11 +12,20 @@ namespace {
 constexpr int kFrame = 2;    // the edges on both sides
 constexpr int kPadding = 4;  // a blank on each side of an item's text, and the mark of a submenu
 
+/// The key that does without the menu what an item does. A terminal tells no Ctrl+Shift from Ctrl.
+std::string_view ShownShortcut(const MenuItem& item) {
+  return item.Shortcut == "Ctrl+Shift+Z" ? std::string_view("F3") : std::string_view(item.Shortcut);
+}
+
 /// The width of a menu with its frame.
 int MenuWidth(const std::vector<MenuItem>& items, int columns) {
-  int width = 8;
-  for (const MenuItem& item : items) width = std::max(width, CellsOf(WithoutMnemonic(item.Text)));
-  return std::min(width + kPadding + kFrame, columns);
+  int texts = 8;
+  int keys = 0;
+  for (const MenuItem& item : items) {
+    texts = std::max(texts, CellsOf(WithoutMnemonic(item.Text)));
+    if (!item.Shortcut.empty()) keys = std::max(keys, CellsOf(ShownShortcut(item)) + 1);
+  }
+  return std::min(texts + keys + kPadding + kFrame, columns);
 }
 
 /// An open menu: its frame, its rows, the one that is marked.
@@ -62,6 +71,8 @@ void MenuPopup::Draw(bool isActive) {
     const Ink ink = isMarked ? Ink::Focus : item.Enabled ? Ink::Paper : Ink::Faint;
     screen_.Put(y, area_.X + 1, {}, width - kFrame, ink);
     screen_.PutMarked(y, area_.X + 2, item.Text, width - kPadding - kFrame + 1, ink);
+    const int keys = CellsOf(ShownShortcut(item));
+    screen_.Put(y, area_.Right() - 2 - keys, ShownShortcut(item), keys, ink);
     if (!item.Items.empty()) screen_.Put(y, area_.Right() - 3, ">", 1, ink);
     if (!item.Enabled) screen_.Put(y, area_.Right() - 3, "-", 1, ink);
   }

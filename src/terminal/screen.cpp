@@ -7,6 +7,7 @@
 #include <poll.h>
 #include <signal.h>
 #include <sys/ioctl.h>
+#include <termios.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -112,6 +113,17 @@ std::string Base64(std::string_view bytes) {
   return letters;
 }
 
+/// Gives the program the keys with which a terminal stops what is written (Ctrl+S), goes on (Ctrl+Q) and suspends the
+/// program (Ctrl+Z), and those that it would quote or drop; Ctrl+C stays what it is.
+void TakeControlKeys() {
+  termios modes{};
+  if (tcgetattr(STDIN_FILENO, &modes) != 0) return;
+  modes.c_iflag &= ~static_cast<tcflag_t>(IXON | IXOFF);
+  modes.c_lflag &= ~static_cast<tcflag_t>(IEXTEN);
+  modes.c_cc[VSUSP] = _POSIX_VDISABLE;
+  if (tcsetattr(STDIN_FILENO, TCSANOW, &modes) == 0) def_prog_mode();
+}
+
 // --- Keys ----------------------------------------------------------------------------------------------------------
 
 KeyKind FunctionKey(wint_t code) {
@@ -159,7 +171,9 @@ KeyKind FunctionKey(wint_t code) {
 }
 
 Key PlainKey(wint_t code) {
+  constexpr wint_t kControlL = 0x0C;
   constexpr wint_t kControlU = 0x15;
+  constexpr wint_t kControlZ = 0x1A;
   switch (code) {
     case '\r':
     case '\n':
@@ -173,9 +187,14 @@ Key PlainKey(wint_t code) {
       return {KeyKind::ClearLine};
     case kEscape:
       return {KeyKind::Escape};
+    case kControlL:
+      return {KeyKind::None, kControlL};
+    case kControlZ:
+      return {KeyKind::TakeBack};
     default:
       break;
   }
+  if (code >= 1 && code < kControlZ) return {KeyKind::Shortcut, static_cast<char32_t>(code - 1 + U'a')};
   if (code < 0x20 || (code > 0x7F && code < 0xA0)) return {KeyKind::None, static_cast<char32_t>(code)};
   return {KeyKind::Character, static_cast<char32_t>(code)};
 }
@@ -192,6 +211,7 @@ Screen::Screen() {
   nonl();
   keypad(stdscr, TRUE);
   intrflush(stdscr, FALSE);
+  TakeControlKeys();
   SetUpInks();
   ClearClip();
 }

@@ -29,9 +29,10 @@ enum class KeyKind : std::uint8_t {
   ClearLine,  ///< Ctrl+U
   MainMenu,   ///< F10
   PageMenu,   ///< F9 or Shift+F10
-  TakeBack,   ///< F2
+  TakeBack,   ///< F2 or Ctrl+Z
   DoAgain,    ///< F3
   Help,       ///< F1, or Alt+? where the terminal keeps F1 for itself
+  Shortcut,   ///< Ctrl and the Character, a lower-case letter
 };
 
 struct Key {

@@ -21,6 +21,22 @@ constexpr int kMostLeftForms = 10000;  // forms left after the end before their 
 constexpr int kPageMargin = 2;         // cells left and right of the main window's page
 constexpr int kLabelGap = 2;           // from the longest label to the values
 
+/// The key as menus name it; empty if it is none of theirs.
+std::string ShortcutOf(const Key& key) {
+  switch (key.Kind) {
+    case KeyKind::Help:
+      return "F1";
+    case KeyKind::TakeBack:
+      return "Ctrl+Z";
+    case KeyKind::DoAgain:
+      return "Ctrl+Shift+Z";
+    case KeyKind::Shortcut:
+      return {'C', 't', 'r', 'l', '+', static_cast<char>(key.Character - U'a' + U'A')};
+    default:
+      return {};
+  }
+}
+
 /// Ends a run that goes on opening forms after the terminal was lost.
 struct RunBrokenOff {};
 
@@ -86,9 +102,12 @@ void TerminalPlatform::Desk::Draw(bool isActive) {
     screen_.PutMarked(0, MenuX(i), Menu[i].Text, width, ink);
   }
   const int menuEnd = MenuX(Menu.size()) + 1;
-  const int width = std::min(CellsOf(Title), std::max(columns - menuEnd - 1, 0));
-  // Of a title that is too long the end is shown: the character's name.
-  screen_.Put(0, columns - 1 - width, Title, width, Ink::Bar, CellsOf(Title) - width);
+  const int room = std::max(columns - menuEnd - 1, 0);
+  // Of a title that is too long the last words are shown: the character's name.
+  std::string_view shown = Title;
+  while (CellsOf(shown) > room && shown.find(' ') != std::string_view::npos) shown.remove_prefix(shown.find(' ') + 1);
+  const int width = std::min(CellsOf(shown), room);
+  screen_.Put(0, columns - 1 - width, shown, width, Ink::Bar);
   screen_.SetCursor(0, OpenMenu >= 0 ? MenuX(static_cast<std::size_t>(OpenMenu)) : 1);
   DrawPage();
   if (!isActive) return;
@@ -230,8 +249,8 @@ void TerminalPlatform::HandleMainKey(const MainWindow& window, const Key& key) {
     page->HandleKey(key);
   } else if (key.Kind == KeyKind::Enter) {
     RunMenuBar(window, 0);
-  } else if (key.Kind == KeyKind::Help) {
-    RunShortcut(window, "F1");
+  } else if (const std::string shortcut = ShortcutOf(key); !shortcut.empty()) {
+    RunShortcut(window, shortcut);
   } else {
     desk_->Scroll(key.Kind);
   }

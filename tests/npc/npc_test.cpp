@@ -349,9 +349,10 @@ TEST(NpcRowsTest, TheBoxesOfferWhatARaceCanHave) {
     const RaceRecord& race = RaceTable()[At(raceRow)];
     const std::vector<std::string> offered = NpcClasses(kDefaultRuleSwitches, race.Name, race.Gender);
     for (int classRow = 0; classRow < kClassRows; ++classRow) {
-      const bool isOpen = HighestLevel(raceRow, classRow) + HighestLevelAfterOthers(raceRow, classRow) > 0;
       const std::string_view name = ClassAt(classRow).Name;
-      EXPECT_EQ(std::ranges::count(offered, name), !name.empty() && isOpen ? 1 : 0) << RaceListText(raceRow) << name;
+      const bool isOpen =
+          !name.empty() && HighestLevel(raceRow, classRow) + HighestLevelAfterOthers(raceRow, classRow) > 0;
+      EXPECT_EQ(std::ranges::count(offered, name), isOpen ? 1 : 0) << RaceListText(raceRow) << name;
     }
   }
   EXPECT_EQ(NpcRaces(kDefaultRuleSwitches).size(), At(kRacesFilled / 2));

@@ -273,6 +273,20 @@ TEST(Layout, AResultMayStandBetweenALabelAndItsField) {
   EXPECT_EQ(marked[3], "Score") << "no letter is marked that reaches nothing";
 }
 
+TEST(Layout, RadiosOfANumberedTableAreNamedByTheirHeadingsAndRow) {
+  const auto radio = [](int row, int column, int id) {
+    return ControlTemplate{.Kind = ControlKind::Radio, .Id = id, .Row = row, .Column = column, .Group = row};
+  };
+  const ControlTemplate rows[] = {HeadingAt(0, 1, "Honor", 2), HeadingAt(1, 1, "-1"), HeadingAt(1, 2, "0"),
+                                  CheckAt(2, 0, 1, "&1"),      radio(2, 1, 2),        radio(2, 2, 3),
+                                  CheckAt(3, 0, 4, "&2"),      radio(3, 1, 5),        radio(3, 2, 6)};
+  Form form(FormTemplate{"Table", "Table", rows, ""});
+  EXPECT_EQ(ControlNames(form)[4], "Honor -1, row 1");
+  EXPECT_EQ(ControlNames(form)[8], "Honor 0, row 2");
+  form.Focus(6);
+  EXPECT_EQ(form.FirstFocus(), 8U) << "whoever shows the form after that begins there";
+}
+
 TEST(Search, ChoosesTheFirstFoundAndLeadsToItsList) {
   enum : int { kSearch = 20, kGoods = 21 };
   static constexpr ControlTemplate kSearchControls[] = {ListAt(0, 0, kGoods, 20, 4),

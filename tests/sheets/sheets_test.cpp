@@ -335,6 +335,11 @@ TEST_F(SheetsTest, TheMainWindowsPageSaysOfAFileJustReadWhatItsSheetDoes) {
     for (const HeldAbility& skill : HeldSkills(s)) {
       EXPECT_TRUE(Contains(told("Skills"), Format("%s %i%%", skill.Name, skill.Amount))) << name << skill.Name;
     }
+    for (const std::size_t row : KnownSpells(*game)) {
+      const SpellRecord& spell = game->SpellTable[row];
+      const std::string level = spell.Level < 1 ? "Cantrips" : Format("Level %i", spell.Level);
+      EXPECT_TRUE(Contains(told(level), TrimRight(spell.Name))) << name << spell.Name.View();
+    }
     for (const HeldWeapon& held : HeldWeapons(s)) {
       EXPECT_TRUE(Contains(told("Weapon Proficiencies"), TrimRight(held.Weapon->Name))) << name;
     }
@@ -351,6 +356,11 @@ TEST_F(SheetsTest, ThePageBeginsWithHowToBeginAndGrowsWithTheCharacter) {
   const std::vector<PageLine> page = CharacterPage(*game);
   EXPECT_TRUE(Contains(page[6].Value + page[7].Value, "illusion immunity 1st-level, "));
   EXPECT_TRUE(Contains(page[1].Value, "lbs, more than can be carried (light from ")) << page[1].Value;
+  for (const std::size_t row : {kCantripRows, kCantripRows - 1, std::size_t{0}}) game->sheet.SpellsKnown[row] = 1;
+  const std::vector<PageLine> mage = CharacterPage(*game);
+  EXPECT_EQ(mage[mage.size() - 3].Value, "Spells");
+  EXPECT_EQ(mage[mage.size() - 2].Label + mage.back().Label, "CantripsLevel 1");
+  EXPECT_EQ(std::ranges::count(mage[mage.size() - 2].Value, ';'), 1);
 }
 
 }  // namespace

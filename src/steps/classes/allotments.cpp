@@ -43,7 +43,8 @@ constexpr std::string_view kBountyHunterLabels[] = {"&Find Traps", "&Remove Trap
 /// A row for each ability: what it is, its total so far, and the points to add.
 template <std::size_t N>
 constexpr auto AllotmentControls(std::string_view title, const std::string_view (&labels)[N], bool hasAbort) {
-  constexpr int kFirstRow = 4;
+  constexpr int kHeadRow = 4;
+  constexpr int kFirstRow = kHeadRow + 1;
   std::array<ControlTemplate, 3 * N + 8> controls{};
   std::size_t next = 0;
   controls[next++] = TitleAt(0, 0, title, 3);
@@ -51,8 +52,8 @@ constexpr auto AllotmentControls(std::string_view title, const std::string_view 
   controls[next++].ColumnSpan = 3;
   controls[next] = ResultAt(2, 0, kLimitText, 40);
   controls[next++].ColumnSpan = 3;
-  controls[next++] = LabelAt(3, 1, "Total %");
-  controls[next++] = LabelAt(3, 2, "Points");
+  controls[next++] = LabelAt(kHeadRow, 1, "Total %");
+  controls[next++] = LabelAt(kHeadRow, 2, "Points");
   for (std::size_t i = 0; i < N; ++i) {
     const int place = static_cast<int>(i);
     controls[next++] = LabelAt(kFirstRow + place, 0, labels[i]);

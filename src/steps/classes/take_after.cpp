@@ -53,6 +53,7 @@ void RunTakeAfter(Game& game) {
   form.onOpened = [&] {
     form.SetItems(kRaces, {races.begin(), races.end()});
     form.Select(kRaces, 0);
+    form.Focus(kNo);  // an Enter too many must not spend so much
   };
   form.onCommand = [&](int id) {
     if (id == kYes) {

@@ -8,7 +8,7 @@ namespace veld {
 
 namespace {
 
-enum : int { kOk = 1, kAbort = 2, kCharacterName = NamingControl::CharacterName, kPlayerName = 3001 };
+enum : int { kOk = 1, kAbort = 2, kNext = 50, kCharacterName = NamingControl::CharacterName, kPlayerName = 3001 };
 
 constexpr ControlTemplate kStepEightteenControls[] = {
     TitleAt(0, 0, "Step 18: Name your character", 2),
@@ -16,8 +16,9 @@ constexpr ControlTemplate kStepEightteenControls[] = {
     EditAt(1, 1, kCharacterName, 44, static_cast<int>(decltype(CharacterSheet::CharacterName)::kWidth) - 1),
     LabelAt(2, 0, "&Player Name"),
     EditAt(2, 1, kPlayerName, 44, static_cast<int>(decltype(CharacterSheet::PlayerName)::kWidth) - 1),
-    ButtonAt(3, 0, kOk, "&OK", ButtonRole::Default),
-    ButtonAt(3, 0, kAbort, "&Abort", ButtonRole::Cancel),
+    {.Kind = ControlKind::Result, .Id = kNext, .Row = 3, .Width = 40, .ColumnSpan = 2},
+    ButtonAt(4, 0, kOk, "&OK", ButtonRole::Default),
+    ButtonAt(4, 0, kAbort, "&Abort", ButtonRole::Cancel),
 };
 constexpr std::string_view kStepEightteenHelp =
     "His name, as it will stand on the sheet and over his grave, and yours beside it. OK takes any name but the one "
@@ -25,6 +26,12 @@ constexpr std::string_view kStepEightteenHelp =
     "spell. It also becomes the name of the file that is offered for saving.";
 constexpr FormTemplate kStepEightteen{"StepEightteen", "Step 18: Name your character", kStepEightteenControls,
                                       kStepEightteenHelp};
+
+/// OK refuses the name that he was made with, and says nothing.
+void ShowNext(Form& form) {
+  const bool isNamed = !EqualsIgnoringCase(form.Text(kCharacterName), kUnnamedCharacter);
+  form.SetText(kNext, isNamed ? "Next: OK" : "Next: type the character's name");
+}
 
 }  // namespace
 
@@ -41,7 +48,9 @@ void RunStepEightteen(Game& game) {
     form.SetText(kCharacterName, game.sheet.CharacterName);
     form.SetText(kPlayerName, game.sheet.PlayerName);
     form.Focus(kCharacterName);
+    ShowNext(form);
   };
+  form.onEdit = [&](int) { ShowNext(form); };
   form.onCommand = [&](int id) {
     if (id == kOk) {
       if (!NameCharacter(game, form.Text(kCharacterName), form.Text(kPlayerName))) return;  // stays without a word

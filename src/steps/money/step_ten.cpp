@@ -22,9 +22,7 @@ enum : int {
   kRollAge = StepTenControl::Age
 };
 
-constexpr int kNumberWidth = 8;
-
-/// The race whose training takes no years: its age is as it is, and the button does nothing.
+constexpr int kNumberWidth = 6;
 
 constexpr ControlTemplate kStepTenControls[] = {
     TitleAt(0, 0, "Step 10: Finish Background", 3),
@@ -32,15 +30,15 @@ constexpr ControlTemplate kStepTenControls[] = {
     ResultAt(1, 2, kBuildingPoints, kNumberWidth),
     ButtonAt(2, 0, kRollAge, "&Class Adjusted Age"),
     LabelAt(2, 1, "Age:"),
-    ResultAt(2, 2, kAge, 5),
+    ResultAt(2, 2, kAge, kNumberWidth),
     LabelAt(2, 2, "years"),
     ButtonAt(3, 0, kRollMoney, "Starting &Money"),
     LabelAt(3, 1, "Money:"),
-    ResultAt(3, 2, kMoney, 6),
+    ResultAt(3, 2, kMoney, kNumberWidth),
     LabelAt(3, 2, "gp"),
     HeadingAt(4, 0, "Money Special", 3),
     TextAt(5, 0, kMoneyText, "", 58, 2, 1, 3),
-    ResultAt(6, 0, kNext, 40),
+    {.Kind = ControlKind::Result, .Id = kNext, .Row = 6, .Width = 40, .ColumnSpan = 3},
     ButtonAt(7, 0, kOk, "&OK", ButtonRole::Default),
     ButtonAt(7, 0, kAbort, "&Abort", ButtonRole::Cancel),
 };

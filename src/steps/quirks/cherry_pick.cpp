@@ -71,10 +71,10 @@ constexpr int kRemoveMajor = 4015;
 constexpr int kBoxWidth = 38;
 constexpr int kListLines = 4;
 
-/// Enter at a box adds what is chosen there.
-constexpr ControlTemplate EnterAdds(ControlTemplate box, int button) {
-  box.EnterPresses = button;
-  return box;
+/// Enter at a box adds what is chosen there, and at the number of rolls it rolls.
+constexpr ControlTemplate EnterPresses(ControlTemplate field, int button) {
+  field.EnterPresses = button;
+  return field;
 }
 
 constexpr ControlTemplate kCherryPickControls[] = {
@@ -82,8 +82,8 @@ constexpr ControlTemplate kCherryPickControls[] = {
     LabelAt(1, 0, "M&inor Picking Box"),
     LabelAt(1, 1, "Ma&jor Picking Box"),
     LabelAt(1, 2, "&Quirks and Flaws you have"),
-    EnterAdds(ComboAt(2, 0, kMinorBox, kBoxWidth), kAddMinor),
-    EnterAdds(ComboAt(2, 1, kMajorBox, kBoxWidth), kAddMajor),
+    EnterPresses(ComboAt(2, 0, kMinorBox, kBoxWidth), kAddMinor),
+    EnterPresses(ComboAt(2, 1, kMajorBox, kBoxWidth), kAddMajor),
     ListAt(2, 2, kHeldQuirksList, kBoxWidth, kListLines + 4, 5),
     ButtonAt(3, 0, kAddMinor, "Add &Minor"),
     ButtonAt(3, 0, kRemoveMinor, "Re&move Minor"),
@@ -103,7 +103,7 @@ constexpr ControlTemplate kCherryPickControls[] = {
         "box and hit 'Roll')",
         3 * kBoxWidth, 0, 1, 3),
     LabelAt(8, 0, "Rolls (&1 to 9)"),
-    NumberAt(8, 0, kRolls, 6),
+    EnterPresses(NumberAt(8, 0, kRolls, 6), kRoll),
     ButtonAt(8, 0, kRoll, "Ro&ll"),
     ButtonAt(9, 0, kOk, "OK", ButtonRole::Default),
     ButtonAt(9, 0, kAbort, "&Abort", ButtonRole::Cancel),
@@ -220,7 +220,7 @@ void RunCherryPick(Game& game) {
   form.onOpened = [&] {
     ClearQuirkPicks(game);
     ShowPicks(game, form);
-    ShowNext(game, form);  // the number of rolls has the focus first
+    form.Focus(ShowNext(game, form));
   };
   form.onCommand = [&](int id) {
     rolls = static_cast<int>(form.Number(kRolls));
