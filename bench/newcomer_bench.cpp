@@ -97,7 +97,6 @@ class Newcomer : public SilentPlatform, public FormObserver {
  private:
   int Throw(int sides, int count) {
     int sum = 0;
-    int above = 0;
     for (int die = 0; die < count; ++die) {
       state_ = state_ * 1664525U + 1013904223U;
       sum += 1 + static_cast<int>((state_ >> 8) % static_cast<std::uint32_t>(sides));
@@ -134,6 +133,7 @@ class Newcomer : public SilentPlatform, public FormObserver {
       if (!Shop(form)) EndPage(form);
       return;
     }
+    if (form.Name() == "CherryPick") return EndPage(form);  // he wants no flaw
     const Control& control = form.Controls()[focus_];
     const int id = control.Template.Id;
     if (form.Name() == "GetDice") {
