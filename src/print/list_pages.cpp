@@ -190,7 +190,8 @@ void PlaceGoodsTable(PageFlow& flow, const Game& game) {
   const int few = rows.empty() ? 20 : 12;
   const double rowsHigh = (flow.Room() - kHeads) / kRowHeight;
   const int left = kColumns * static_cast<int>(rowsHigh) - static_cast<int>(rows.size());
-  const bool isLast = left >= few && left - few <= kColumns * kStoryRoom / kRowHeight;
+  constexpr int kEnough = 4;
+  const bool isLast = left >= kEnough && left - few <= kColumns * kStoryRoom / kRowHeight;
   const int blanks = isLast ? left : few;
   rows.push_back(SubHeading(canvas, "Found and bought since", width));
   rows.back().Title.clear();  // rows to fill in need no telling
