@@ -21,7 +21,7 @@ namespace {
 // place are broken, wide tables scroll on a phone. The first page stands side by side where there is room for that;
 // what is marked is marked by its weight and by words too, for a printer without colours.
 constexpr std::string_view kStyle = R"(
-:root { --text: #1f2126; --ink: #1c3d86; --edge: #aab6cb; --rule: #d7e1f1; --wash: #dfe8f7; }
+:root { --text: #1f2126; --ink: #1c3d86; --edge: #6b7a99; --rule: #c3cee0; --wash: #dfe8f7; }
 * { box-sizing: border-box; }
 body { margin: 0 auto; padding: 1rem; max-width: 60rem; background: #fff; color: var(--text);
   font: 0.95rem/1.45 "Liberation Sans", Arial, Helvetica, sans-serif; overflow-wrap: anywhere; }
@@ -88,7 +88,8 @@ thead { display: table-header-group; }
 }
 @page { margin: 10mm 11mm 12mm 18mm; }
 @media print {
-  body { padding: 0; max-width: none; font-size: 8.4pt; line-height: 1.3; }
+  :root { --rule: #6b7a99; }
+  body { padding: 0; max-width: none; font-size: 8.2pt; line-height: 1.22; }
   h1 { font-size: 15pt; }
   h2 { margin: 0.55rem 0 0.15rem; font-size: 9.5pt; }
   h3 { margin: 0.5rem 0 0.1rem; font-size: 8.6pt; }
