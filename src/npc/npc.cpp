@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 #include <limits>
+#include <utility>
 
 #include "dice/dice.h"
 #include "editors/class_progress.h"
@@ -15,6 +16,8 @@
 #include "rules/race_table.h"
 #include "steps/classes/class_totals.h"
 #include "steps/finish/naming.h"
+#include "steps/skills/free_skills.h"
+#include "steps/skills/skill_lists.h"
 #include "store/sheet_accessors.h"
 #include "text/format.h"
 #include "text/search.h"
@@ -23,8 +26,9 @@ namespace veld {
 
 namespace {
 
-constexpr int kMostLives = 60;  ///< runs that he begins before he gives up
-constexpr int kFinished = 20;   ///< CurrentStep
+constexpr int kMostLives = 60;     ///< runs that he begins before he gives up
+constexpr int kFinished = 20;      ///< CurrentStep
+constexpr int kFullMastery = 100;  ///< percent
 
 std::size_t At(int number) {
   return static_cast<std::size_t>(number);
@@ -77,13 +81,44 @@ bool IsArmed(const Game& game) {
                              [&](const EquipmentRecord& good) { return isWeapon(good) && good.Quantity > 0; });
 }
 
-/// The levels asked for, with their training.
-void GainLevels(Game& game, const NpcCalling& calling) {
+/// What a training gave him to choose: skills that his class lives by, and points of mastery for one of them, another
+/// after each level.
+void LearnFromTraining(Game& game, const NpcWants& wants, int level) {
+  GenerationRun& run = game.run;
+  run.FreeSkillPicks = 0;
+  run.VeteranFreeSkills = std::exchange(run.TrainingFreeSkills, 0);
+  std::vector<std::string_view> known;
+  for (const std::string_view name : wants.Skills) {
+    const SkillTarget target = FindTarget(game.sheet, name);
+    if (target.Kind == SkillKind::None) continue;
+    const bool isKnown = Mastery(game.sheet, target) > 0;
+    if (isKnown || (run.VeteranFreeSkills > 0 && TakeAsFree(game, name))) known.push_back(name);
+  }
+  run.VeteranFreeSkills = 0;
+  run.PackageBonusPoints = 0;
+  run.BonusSkillPoints = std::exchange(run.TrainingFreeMastery, 0);
+  for (std::size_t i = 0; i < known.size() && run.BonusSkillPoints > 0; ++i) {
+    const SkillTarget target = FindTarget(game.sheet, known[(At(level) + i) % known.size()]);
+    const std::string line = OwnedSkillLine(game.sheet, target);
+    if (line.empty()) continue;
+    for (int left = run.BonusSkillPoints; left > 0 && Mastery(game.sheet, target) < kFullMastery; --left) {
+      ApplyBonusPoints(game, line);
+    }
+  }
+  run.BonusSkillPoints = 0;
+}
+
+/// The levels asked for, one after the other, each with its training.
+void GainLevels(Game& game, const NpcCalling& calling, const NpcWants& wants) {
   for (std::size_t i = 0; i < calling.Classes.size(); ++i) {
     const int row = calling.Classes[i];
-    const auto held = static_cast<std::int64_t>(game.sheet.ClassExperience[At(row)]);
-    const std::int64_t needed = ExperienceFor(row, calling.Levels[i]);
-    if (calling.Levels[i] > 1 && needed > held) AwardExperience(game, row, needed - held);
+    for (int level = 2; level <= calling.Levels[i]; ++level) {
+      const auto held = static_cast<std::int64_t>(game.sheet.ClassExperience[At(row)]);
+      const std::int64_t needed = ExperienceFor(row, level);
+      if (needed <= held) continue;
+      AwardExperience(game, row, needed - held);
+      LearnFromTraining(game, wants, level);
+    }
   }
 }
 
@@ -122,8 +157,7 @@ struct NpcMaker::Workshop {
   }
 
   /// One life after the other, until one comes to its end as it was wished. Returns why none did.
-  std::string Live(const NpcWishes& wishes, const NpcCalling& calling, NpcChance& chance) {
-    const NpcWants wants = NpcWantsOf(ClassAt(calling.ClassRow).Name);
+  std::string Live(const NpcWishes& wishes, const NpcCalling& calling, const NpcWants& wants, NpcChance& chance) {
     const NpcAbilityNeeds needs = NeedsOf(*game, calling, LeastStrength(*game, wants));
     std::uint32_t dice = chance.Seed();
     std::string refusal;
@@ -172,9 +206,10 @@ NpcResult NpcMaker::Make(Game& game, const NpcWishes& wishes) {
   NpcCalling calling;
   if (std::string refusal = ChooseCalling(*shop.game, wishes, chance, calling); !refusal.empty())
     return {false, refusal};
-  if (std::string refusal = shop.Live(wishes, calling, chance); !refusal.empty()) return {false, refusal};
+  const NpcWants wants = NpcWantsOf(ClassAt(calling.ClassRow).Name);
+  if (std::string refusal = shop.Live(wishes, calling, wants, chance); !refusal.empty()) return {false, refusal};
   const float cashed = shop.player.UnspentBP();
-  GainLevels(*shop.game, calling);
+  GainLevels(*shop.game, calling, wants);
   shop.HandOver(game);
   return {true, {}, cashed};
 }
