@@ -10,7 +10,7 @@ cd "$(dirname "$0")"
 # build_in FOLDER TARGET...: says what it does the first time, and nothing after it.
 build_in() {
   if [ -x "$1/bin/$2" ]; then
-    cmake --build "$1" --target "${@:2}" -- --quiet >&2
+    cmake --build "$1" --target "${@:2}" -- --quiet | { grep -v '^ninja: no work to do' || true; } >&2
   else
     echo "Building VELD, about a minute the first time." >&2
     cmake --build "$1" --target "${@:2}" >&2
