@@ -277,7 +277,7 @@ std::vector<PageLine> NobodyPage() {
       text("File, Input own character takes one over from a sheet of paper."),
       {.What = Kind::Heading, .Value = "And beside that"},
       text("Help, Options chooses the books and optional rules in use."),
-      text("The GM menu has the referee's tools, which need no character: dice, Honor and critical hits."),
+      text("The GM menu has the referee's tools, which need no character: dice, Honor, critical hits and NPCs."),
   };
 }
 
