@@ -25,6 +25,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::size_t kPageWidth = 80;
+constexpr std::string_view kCharacterFormat = "vlf";
 constexpr int kPlaceDie = 10'000;  // tells where a critical hit lands
 
 int Fail(std::string_view whose, std::string_view why) {
@@ -48,18 +49,24 @@ std::unique_ptr<Game> LoadedGame(PromptPlatform& platform) {
   return game;
 }
 
-/// Reads each file as a character and hands it on; tells those that are none.
+/// Calls `act` with a game and each file. The worst of what it returns.
 template <typename Act>
-int ForEachCharacter(const std::vector<std::string>& files, Act act) {
+int ForEachFile(const std::vector<std::string>& files, Act act) {
   PromptPlatform platform;
   const auto game = LoadedGame(platform);
   if (!game) return kFailed;
   int status = kDone;
-  for (const std::string& file : files) {
-    const std::string why = ReadCharacter(*game, file);
-    status = std::max(status, why.empty() ? act(*game, file) : Fail(file, why));
-  }
+  for (const std::string& file : files) status = std::max(status, act(*game, file));
   return status;
+}
+
+/// Reads each file as a character and hands it on; tells those that are none.
+template <typename Act>
+int ForEachCharacter(const std::vector<std::string>& files, Act act) {
+  return ForEachFile(files, [&](Game& game, const std::string& file) {
+    const std::string why = ReadCharacter(game, file);
+    return why.empty() ? act(game, file) : Fail(file, why);
+  });
 }
 
 /// Writes characters in the formats asked for.
@@ -71,7 +78,7 @@ class SheetWriter {
     }
   }
 
-  /// Returns false, and tells why, if there is no such format or the folder can't be made.
+  /// Returns false, and tells why, if the folder can't be made.
   bool IsReady() {
     if (folder_ == kStandard) return true;
     std::error_code error;
@@ -81,9 +88,14 @@ class SheetWriter {
     return false;
   }
 
-  /// `name`: of the character's files, without an extension. One that was written before gets a number.
-  int Write(Game& game, const std::string& name) {
-    const std::string file = NewName(name);
+  /// `name`: of the character's files, without an extension. One that was written before gets a number; so does a new
+  /// character for whom there are such files already, since they are somebody else's.
+  int Write(Game& game, const std::string& name, bool isNew) {
+    std::string file = name;
+    for (int number = 2; written_.contains(file) || (isNew && IsTaken(file)); ++number) {
+      file = Format("%s %i", name, number);
+    }
+    written_.insert(file);
     int status = kDone;
     for (const SheetFormat& format : formats_) {
       const std::string sheet = format.Write(game);
@@ -91,19 +103,30 @@ class SheetWriter {
         status = Fail(name, Format("no %s can be made here", format.Name));
       } else if (folder_ == kStandard) {
         status = std::max(status, Print(sheet));
-      } else if (const fs::path path = fs::path(folder_) / Format("%s.%s", file, format.Name);
-                 !SaveWholeFile(path, sheet)) {
-        status = Fail(path.string(), "can't be written");
+      } else if (const std::string path = PathOf(file, format); !Save(path, sheet, format)) {
+        status = Fail(path, "can't be written");
       }
     }
     return status;
   }
 
  private:
-  std::string NewName(const std::string& name) {
-    std::string file = name;
-    for (int number = 2; !written_.insert(file).second; ++number) file = Format("%s %i", name, number);
-    return file;
+  std::string PathOf(const std::string& file, const SheetFormat& format) const {
+    return fs::path(folder_) / Format("%s.%s", file, format.Name);
+  }
+
+  bool IsTaken(const std::string& file) const {
+    std::error_code error;
+    return folder_ != kStandard && std::ranges::any_of(formats_, [&](const SheetFormat& format) {
+             return fs::exists(PathOf(file, format), error);
+           });
+  }
+
+  /// A character file that is overwritten with other contents is kept beside it.
+  static bool Save(const std::string& path, std::string_view bytes, const SheetFormat& format) {
+    std::string old;
+    const bool isCharacter = format.Name == kCharacterFormat && ReadBytes(path, old).empty() && old != bytes;
+    return (!isCharacter || KeepBackup(path, old)) && SaveWholeFile(path, bytes);
   }
 
   std::vector<SheetFormat> formats_;
@@ -172,6 +195,12 @@ std::string PageText(const Game& game) {
   return page;
 }
 
+/// A line of who a file holds, or why it can't be loaded.
+int ListCharacter(Game& game, const std::string& file) {
+  const std::string why = ReadCharacter(game, file);
+  return why.empty() ? Print(Format("%s: %s\n", file, LineOf(game))) : Fail(file, why);
+}
+
 int ListPartyFile(const std::string& file) {
   std::string bytes;
   if (const std::string why = ReadBytes(file, bytes); !why.empty()) return Fail(file, why);
@@ -215,7 +244,7 @@ int MakeNpcs(const NpcWishes& wishes, int count, const SheetOutput& output) {
     if (output.Formats.empty()) {
       status = std::max(status, Print(NpcLine(*game) + '\n'));
     } else {
-      status = std::max(status, writer.Write(*game, FileNameOf(*game)));
+      status = std::max(status, writer.Write(*game, FileNameOf(*game), true));
     }
   }
   return status;
@@ -225,7 +254,7 @@ int WriteSheets(const std::vector<std::string>& files, const SheetOutput& output
   SheetWriter writer(output);
   if (!writer.IsReady()) return kFailed;
   return ForEachCharacter(files, [&](Game& game, const std::string& file) {
-    return writer.Write(game, file == kStandard ? FileNameOf(game) : fs::path(file).stem().string());
+    return writer.Write(game, file == kStandard ? FileNameOf(game) : fs::path(file).stem().string(), false);
   });
 }
 
@@ -236,8 +265,7 @@ int ShowCharacters(const std::vector<std::string>& files) {
 }
 
 int CheckCharacters(const std::vector<std::string>& files) {
-  return ForEachCharacter(
-      files, [](const Game& game, const std::string& file) { return Print(Format("%s: %s\n", file, LineOf(game))); });
+  return ForEachFile(files, ListCharacter);
 }
 
 int RollExpression(const std::string& dice, int times, std::optional<std::uint32_t> seed) {
@@ -275,12 +303,9 @@ int LookUpCriticalHit(const CriticalHitWish& wish) {
 }
 
 int ListParty(const std::vector<std::string>& files) {
-  int status = kDone;
-  for (const std::string& file : files) {
-    const bool isParty = EndsIgnoringCase(file, ".vlp");
-    status = std::max(status, isParty ? ListPartyFile(file) : CheckCharacters({file}));
-  }
-  return status;
+  return ForEachFile(files, [](Game& game, const std::string& file) {
+    return EndsIgnoringCase(file, ".vlp") ? ListPartyFile(file) : ListCharacter(game, file);
+  });
 }
 
 }  // namespace veld

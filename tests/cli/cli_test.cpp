@@ -73,6 +73,14 @@ TEST_F(CliTest, MakesCharactersAndWritesThemAndNothingElse) {
   EXPECT_NE(RunCli("show club/Brida.vlf").Text.find("Class and level: Fighter 2"), std::string::npos);
   EXPECT_NE(RunCli("party club/Brida.vlf").Text.find("Brida, Human, Fighter 2"), std::string::npos);
   EXPECT_EQ(Files().size(), 7U);
+  // Nobody is lost: a new character takes a free name, and what a file held before stays beside it.
+  EXPECT_EQ(RunCli("npc --class Thief --name Brida --seed 6 --out club --format vlf").Status, 0);
+  ASSERT_TRUE(fs::exists("club/Brida 3.vlf"));
+  fs::copy_file("club/Brida 3.vlf", "Brida.vlf");
+  const std::string first = testing::FileText("club/Brida.vlf");
+  EXPECT_EQ(RunCli("sheet Brida.vlf --to vlf --out club").Status, 0);
+  EXPECT_EQ(testing::FileText("club/Brida.vlf"), testing::FileText("Brida.vlf"));
+  EXPECT_EQ(testing::FileText("club/Brida.vlf.bak"), first);
   EXPECT_FALSE(fs::exists("../recovery"));
 }
 
