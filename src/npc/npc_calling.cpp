@@ -10,10 +10,12 @@
 #include "rules/class_table.h"
 #include "rules/named_rows.h"
 #include "rules/race_table.h"
+#include "steps/abilities/step_eight.h"
 #include "steps/classes/class_levels.h"
 #include "steps/classes/experience_ladder.h"
 #include "steps/classes/take_after.h"
 #include "steps/finish/alignment.h"
+#include "steps/race/race_choice.h"
 #include "text/format.h"
 #include "text/search.h"
 
@@ -21,9 +23,6 @@ namespace veld {
 
 namespace {
 
-constexpr int kLevelsBeyondLimit = 2;  ///< a single class rises so much higher than the race's limit
-constexpr int kBurnBP = 2;
-constexpr int kPercentPerBP = 25;
 constexpr int kNoHighest = 99;
 constexpr int kNoLeast = -10'000;
 
@@ -49,7 +48,7 @@ std::vector<int> LevelsUnder(const ClassNumbers& limits, int classRow, const std
   for (const int row : classes) {
     const int limit = limits[At(row)];
     if (limit == 0) return {};
-    const int open = classes.size() == 1 ? limit + kLevelsBeyondLimit : limit;
+    const int open = classes.size() == 1 ? limit + kLevelsOfSingleClass : limit;
     // Where the ladder dips, who comes to one level comes to the next.
     const int wanted = std::min({level, open, HighestLevelOf(row)});
     levels.push_back(std::min(open, EarnedLevel(row, static_cast<float>(ExperienceFor(row, wanted)))));
@@ -177,7 +176,7 @@ int BurntOut(int ability) {
 }
 
 int BPToRaise(int from, int above) {
-  return from > above ? 0 : (above + 1 - from + kPercentPerBP - 1) / kPercentPerBP;
+  return from > above ? 0 : (above + 1 - from + kPercentilePerBP - 1) / kPercentilePerBP;
 }
 
 }  // namespace
@@ -288,20 +287,20 @@ bool PlanAbilities(const NpcCalling& calling, const NpcAbilityNeeds& needs,
     int whole = std::min({rolled, limits.Maximum, needs.HighestWhole[At(ability)] - modifier});
     if (whole < limits.Minimum || whole < BurntOut(ability)) return false;
     plan.Burn[At(ability)] = rolled - whole;
-    bp += kBurnBP * (rolled - whole);
+    bp += kBurnGain * (rolled - whole);
     int above = needs.Above[At(ability)];
     // Charisma, whose final score is known here, changes Comeliness before the class is chosen.
     if (ability == kComeliness) above -= 100 * ComelinessChange({charisma, 1});
     const int score = 100 * (whole + modifier) + scores[At(ability)].Percentile;
     const int raise = BPToRaise(score, above);
     plan.RaiseBP += raise;
-    if (ability == kCharisma) charisma = (score + raise * kPercentPerBP - 1) / 100;
+    if (ability == kCharisma) charisma = (score + raise * kPercentilePerBP - 1) / 100;
     surplus[At(ability)] =
         std::max(0, std::min({(score - above - 1) / 100, whole - limits.Minimum, whole - BurntOut(ability)}));
   }
   if (needs.Above[kComeliness] > 100) surplus[kCharisma] = 0;
   needed += plan.RaiseBP;
-  int missing = bp >= needed ? 0 : (needed - bp + kBurnBP - 1) / kBurnBP;
+  int missing = bp >= needed ? 0 : (needed - bp + kBurnGain - 1) / kBurnGain;
   if (missing > mostExtraBurn) return false;
   plan.ExtraBurn = missing;
   for (auto ability = needs.Order.rbegin(); ability != needs.Order.rend() && missing > 0; ++ability) {

@@ -177,7 +177,7 @@ void NpcPlayer::GiveUp(Form& form, std::string refusal) {
   form.PressCloseBox();
 }
 
-/// The first of each list that has nothing chosen, then OK; where there is none, the first button.
+/// A row of each list that has nothing chosen, then OK; where there is none, the first button.
 void NpcPlayer::PlayUnknown(Form& form) {
   constexpr int kRounds = 12;  // a page that wants several picks
   for (int round = 0; round < kRounds && !form.IsClosed(); ++round) {
@@ -276,15 +276,9 @@ void NpcPlayer::PlayStepEight(Form& form) {
   RaiseEntries entries{};
   int left = base.BP - (calling_->TakesAfter.empty() ? 0 : static_cast<int>(kTakeAfterCost));
   const auto numberOf = [&](int ability) {
-    AbilityScore score = base.Scores[At(ability)];
-    score.Percentile += static_cast<int>(25 * entries[At(ability)]);
-    NormalizeAbility(score);
-    if (ability == kComeliness) {
-      AbilityScore charisma = base.Scores[kCharisma];
-      charisma.Percentile += static_cast<int>(25 * entries[kCharisma]);
-      NormalizeAbility(charisma);
-      score.Whole += ComelinessChange(charisma);
-    }
+    RaiseAbilities(*game_, base, entries);
+    AbilityScore score = AbilityAt(game_->sheet, ability);
+    if (ability == kComeliness) score.Whole += ComelinessChange(game_->sheet.Charisma);
     return AbilityAsNumber(score);
   };
   for (int ability = 0; ability < kAbilityCount; ++ability) {
@@ -300,6 +294,7 @@ void NpcPlayer::PlayStepEight(Form& form) {
     return found == kAbilityShortNames.end() ? 0 : static_cast<int>(found - kAbilityShortNames.begin());
   }();
   if (left >= kPlenty && ranges[At(first)].Maximum >= 99) entries[At(first)] += kGift;
+  RaiseAbilities(*game_, base, {});
   for (int ability = 0; ability < kAbilityCount; ++ability) {
     form.Type(StepEightControl::FirstEntry + ability, std::to_string(entries[At(ability)]));
   }

@@ -13,7 +13,6 @@ namespace veld {
 
 namespace {
 
-constexpr int kPercentilePerBP = 25;
 
 constexpr int kOk = 1;
 constexpr int kAbort = 2;

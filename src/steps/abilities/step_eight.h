@@ -18,6 +18,8 @@ struct RaiseBase {
   int BP = 0;
 };
 
+inline constexpr int kPercentilePerBP = 25;
+
 /// BP to spend on each ability in all, 0 to 999,999.
 using RaiseEntries = std::array<std::int64_t, kAbilityCount>;
 
@@ -27,7 +29,7 @@ void RestoreRaiseBase(Game& game, const RaiseBase& base);
 
 /// The BP of the base less the entries: the rest may be negative. Returns false if it is; the abilities stay.
 bool SpendRaiseBP(Game& game, const RaiseBase& base, const RaiseEntries& entries);
-/// The abilities of the base, each with 25 percentile points more for each BP of its entry.
+/// The abilities of the base, each with kPercentilePerBP points more for each BP of its entry.
 void RaiseAbilities(Game& game, const RaiseBase& base, const RaiseEntries& entries);
 
 /// Step 8, "Raise Ability Scores with BPs". OK leaves CurrentStep at 9, with the ability tables applied; Abort leaves

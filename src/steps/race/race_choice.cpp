@@ -13,8 +13,6 @@ namespace {
 
 constexpr int kFullMastery = 100;
 
-constexpr int kBurnGain = 2;
-
 std::size_t Index(int number) {
   return static_cast<std::size_t>(number);
 }
@@ -86,7 +84,7 @@ void BindRaceRow(Game& game) {
   }
   if (Contains(game.sheet.ClassName, "/")) return;
   for (int& limit : game.run.ClassAllowed) {
-    if (limit > 0) limit += 2;
+    if (limit > 0) limit += kLevelsOfSingleClass;
   }
 }
 

@@ -7,6 +7,9 @@
 
 namespace veld {
 
+inline constexpr int kBurnGain = 2;             ///< BP for a point of an ability that is burnt
+inline constexpr int kLevelsOfSingleClass = 2;  ///< that a single class rises above the limit of its race
+
 /// The abilities and BP of a character before any race: what Adjust and Burn work on, and what taking another race goes
 /// back to.
 struct BaseAbilities {
